@@ -1,0 +1,18 @@
+# One static library a folder: coilrun_library(platform ports LIBS PNG::PNG) builds src/platform, which may use src/ports and,
+# for itself alone, the libraries named.
+function(coilrun_library folder)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "LIBS")
+  file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.cpp)
+  if(sources)
+    add_library(coilrun_${folder} STATIC ${sources})
+    set(visibility PUBLIC)
+    target_link_libraries(coilrun_${folder} PRIVATE coilrun_flags ${arg_LIBS})
+  else()
+    add_library(coilrun_${folder} INTERFACE)
+    set(visibility INTERFACE)
+  endif()
+  target_include_directories(coilrun_${folder} ${visibility} ${CMAKE_CURRENT_SOURCE_DIR})
+  foreach(used ${arg_UNPARSED_ARGUMENTS})
+    target_link_libraries(coilrun_${folder} ${visibility} coilrun_${used})
+  endforeach()
+endfunction()

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "ports/bytes.h"
+
+namespace coilrun {
+
+/// How the game writes the program folder in its paths: ".\gfx\pause.bmp", ".\lvl\lvl1.dat".
+inline constexpr std::string_view kProgramFolder = ".";
+
+/// The game's files. Paths are Windows-1252 text with backslashes in any letter case, beginning
+/// with `kProgramFolder` (a full name that `FullName` gave is taken too). Reading looks into the
+/// per-user root first, then into the program folder; writing goes to the program folder, or to the
+/// per-user root when the program folder cannot be written. A path that leads outside its root
+/// exists nowhere: it is neither read, written nor deleted.
+class Files {
+ public:
+  virtual ~Files() = default;
+
+  /// True for a file or a folder.
+  virtual bool Exists(const std::string& path) const = 0;
+  /// The whole file; nothing when it is missing, a folder, unreadable, or larger than 256 MiB.
+  virtual std::optional<Bytes> Read(const std::string& path) const = 0;
+  /// File names (no folders) of `folder` that end in `suffix` (any letter case), sorted by name
+  /// without regard to case, from both roots; nothing when the folder does not exist.
+  virtual std::optional<std::vector<std::string>> List(const std::string& folder,
+                                                       std::string_view suffix) const = 0;
+  /// Writes the whole file, making the folders that it needs. False when that is not possible or
+  /// not allowed.
+  virtual bool Write(const std::string& path, std::span<const std::uint8_t> contents) = 0;
+  virtual bool MakeFolder(const std::string& path) = 0;
+  /// Deletes a file, never a folder.
+  virtual bool Delete(const std::string& path) = 0;
+  /// The full name, on this machine, under which `Write` puts this path.
+  virtual std::string FullName(const std::string& path) const = 0;
+};
+
+}  // namespace coilrun

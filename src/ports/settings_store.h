@@ -1,0 +1,24 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace coilrun {
+
+/// The player's settings: texts addressed by section and key. Texts are Windows-1252.
+class SettingsStore {
+ public:
+  virtual ~SettingsStore() = default;
+
+  /// The stored text, else the shipped default ("defaults.ini" of the program folder), else
+  /// nothing.
+  virtual std::optional<std::string> Get(std::string_view section, std::string_view key) const = 0;
+  /// Changes a value in memory; `Save` makes it last.
+  virtual void Set(std::string_view section, std::string_view key, std::string_view value) = 0;
+  /// Writes the whole store; after a crash at any moment the old or the new one is there. False
+  /// when it cannot be written.
+  virtual bool Save() = 0;
+};
+
+}  // namespace coilrun

@@ -1,0 +1,86 @@
+#include "ports/windows_1252.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+
+namespace coilrun {
+namespace {
+
+/// Code points of the bytes 0x80 to 0x9f; the five unused bytes stand for the control characters of
+/// the same number.
+constexpr std::array<char32_t, 32> kUpperControls = {
+    0x20AC, 0x81,   0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0x8D,   0x017D, 0x8F,   0x90,   0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x9D,   0x017E, 0x0178};
+
+char32_t CodePoint(unsigned char byte) {
+  return byte >= 0x80 && byte < 0xA0 ? kUpperControls[byte - 0x80U] : char32_t{byte};
+}
+
+char ByteOf(char32_t codePoint) {
+  if (codePoint < 0x80 || (codePoint >= 0xA0 && codePoint <= 0xFF))
+    return static_cast<char>(codePoint);
+  const auto* const found = std::find(kUpperControls.begin(), kUpperControls.end(), codePoint);
+  if (found == kUpperControls.end()) return '?';
+  return static_cast<char>(0x80 + (found - kUpperControls.begin()));
+}
+
+std::size_t SequenceLength(unsigned char lead) {
+  if (lead < 0x80) return 1;
+  if (lead >= 0xC2 && lead < 0xE0) return 2;
+  if (lead >= 0xE0 && lead < 0xF0) return 3;
+  return lead >= 0xF0 && lead < 0xF5 ? 4 : 0;
+}
+
+struct Decoded {
+  char32_t codePoint = U'?';
+  std::size_t length = 1;
+};
+
+/// A broken sequence costs one byte and reads as '?'.
+Decoded DecodeOne(std::string_view text) {
+  const auto lead = static_cast<unsigned char>(text[0]);
+  const std::size_t length = SequenceLength(lead);
+  if (length == 0 || length > text.size()) return {};
+  if (length == 1) return {lead, 1};
+  char32_t codePoint = lead & (0x7FU >> length);
+  for (std::size_t i = 1; i < length; ++i) {
+    const auto byte = static_cast<unsigned char>(text[i]);
+    if ((byte & 0xC0U) != 0x80U) return {};
+    codePoint = codePoint << 6U | (byte & 0x3FU);
+  }
+  return {codePoint, length};
+}
+
+}  // namespace
+
+std::string ToUtf8(std::string_view windows1252) {
+  std::string utf8;
+  for (const char character : windows1252) {
+    const char32_t codePoint = CodePoint(static_cast<unsigned char>(character));
+    if (codePoint < 0x80) {
+      utf8 += static_cast<char>(codePoint);
+    } else if (codePoint < 0x800) {
+      utf8 += static_cast<char>(0xC0U | codePoint >> 6U);
+      utf8 += static_cast<char>(0x80U | (codePoint & 0x3FU));
+    } else {
+      utf8 += static_cast<char>(0xE0U | codePoint >> 12U);
+      utf8 += static_cast<char>(0x80U | (codePoint >> 6U & 0x3FU));
+      utf8 += static_cast<char>(0x80U | (codePoint & 0x3FU));
+    }
+  }
+  return utf8;
+}
+
+std::string FromUtf8(std::string_view utf8) {
+  std::string text;
+  while (!utf8.empty()) {
+    const Decoded decoded = DecodeOne(utf8);
+    text += ByteOf(decoded.codePoint);
+    utf8.remove_prefix(decoded.length);
+  }
+  return text;
+}
+
+}  // namespace coilrun

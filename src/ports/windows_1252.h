@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace coilrun {
+
+/// Texts are Windows-1252 inside the game and its files; the screen, the settings file and the
+/// trace want UTF-8.
+std::string ToUtf8(std::string_view windows1252);
+/// The way back; characters without a place in Windows-1252 and broken sequences become '?'.
+std::string FromUtf8(std::string_view utf8);
+
+}  // namespace coilrun
