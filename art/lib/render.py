@@ -35,7 +35,7 @@ class Scene:
 
     def command(self, target):
         options = [f"+I{self.scene}", f"+O{target}", f"+W{self.width}", f"+H{self.height}"]
-        options += ["+FN", "-D", "-GA", "-V", "Work_Threads=1", f"+L{Path(__file__).parent}"]
+        options += ["+FN", "-D", "-GD", "-GR", "-GS", "-V", "Work_Threads=1", f"+L{Path(__file__).parent}"]
         options += [f"+L{self.scene.parent}", "+UA" if self.alpha else "-UA"]
         options += [f"+AM2 +A{self.antialias} +R{self.depth}"] if self.antialias else ["-A"]
         options += [f"Declare={name}={value}" for name, value in self.declare.items()]
@@ -103,7 +103,7 @@ def _run(job):
         check=False,
     )
     if done.returncode != 0:
-        sys.exit(f"{' '.join(job.command(job.target()))}\n{done.stderr[-3000:]}")
+        sys.exit(f"{' '.join(job.command(job.target()))}\n{done.stderr[-600:]}")
     return outputs
 
 
