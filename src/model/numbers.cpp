@@ -1,0 +1,93 @@
+#include "model/numbers.h"
+
+#include <algorithm>
+#include <array>
+#include <cctype>
+#include <charconv>
+#include <cstdint>
+#include <limits>
+
+namespace coilrun {
+namespace {
+
+std::string WithoutBlanks(std::string_view text, bool commaIsPoint) {
+  std::string kept;
+  for (const char character : text) {
+    if (character == ' ' || character == '\t' || character == '\n') continue;
+    kept += commaIsPoint && character == ',' ? '.' : character;
+  }
+  return kept;
+}
+
+std::optional<int> RoundInto(double number, double lowest, double highest) {
+  const double rounded = RoundHalfEven(number);
+  if (!(rounded >= lowest && rounded <= highest)) return std::nullopt;
+  return static_cast<int>(rounded);
+}
+
+bool EqualsIgnoringCase(std::string_view text, std::string_view lower) {
+  return std::equal(text.begin(), text.end(), lower.begin(), lower.end(), [](char a, char b) {
+    return std::tolower(static_cast<unsigned char>(a)) == b;
+  });
+}
+
+/// from_chars reads words like "inf" too; a number starts with a sign, a digit or a point.
+bool StartsLikeANumber(std::string_view text) {
+  const std::size_t at = !text.empty() && text[0] == '-' ? 1 : 0;
+  if (at >= text.size()) return false;
+  return std::isdigit(static_cast<unsigned char>(text[at])) != 0 || text[at] == '.';
+}
+
+/// The longest number at the start of `text`, if there is one.
+std::optional<double> NumberAtStart(std::string_view text) {
+  if (!text.empty() && text[0] == '+') text.remove_prefix(1);
+  if (!StartsLikeANumber(text)) return std::nullopt;
+  double value = 0;
+  const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
+  if (result.ec == std::errc::result_out_of_range) {
+    return text[0] == '-' ? -std::numeric_limits<double>::max()
+                          : std::numeric_limits<double>::max();
+  }
+  if (result.ec != std::errc{}) return std::nullopt;
+  return value;
+}
+
+}  // namespace
+
+double LeadingNumber(std::string_view text, bool commaIsPoint) {
+  return NumberAtStart(WithoutBlanks(text, commaIsPoint)).value_or(0);
+}
+
+std::optional<int> ToInt16(double number) {
+  return RoundInto(number, std::numeric_limits<std::int16_t>::min(),
+                   std::numeric_limits<std::int16_t>::max());
+}
+
+std::optional<int> ToInt32(double number) {
+  return RoundInto(number, std::numeric_limits<std::int32_t>::min(),
+                   std::numeric_limits<std::int32_t>::max());
+}
+
+std::optional<bool> ToBoolean(std::string_view text) {
+  if (EqualsIgnoringCase(text, "true")) return true;
+  if (EqualsIgnoringCase(text, "false")) return false;
+  const auto number = NumberAtStart(WithoutBlanks(text, false));
+  if (!number) return std::nullopt;
+  return *number != 0;
+}
+
+std::string NumberText(double number) {
+  std::array<char, 32> buffer{};
+  constexpr double kExactInteger = 1e15;
+  const bool whole = number == std::floor(number) && std::abs(number) < kExactInteger;
+  const auto result =
+      whole ? std::to_chars(buffer.begin(), buffer.end(), static_cast<std::int64_t>(number))
+            : std::to_chars(buffer.begin(), buffer.end(), number);
+  return {buffer.begin(), result.ptr};
+}
+
+std::string BooleanText(bool value) {
+  return value ? "True" : "False";
+}
+
+}  // namespace coilrun

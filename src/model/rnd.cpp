@@ -1,0 +1,35 @@
+#include "model/rnd.h"
+
+#include <algorithm>
+#include <bit>
+
+namespace coilrun {
+namespace {
+
+constexpr std::uint64_t kMultiplier = 6364136223846793005ULL;
+constexpr std::uint64_t kIncrement = 1442695040888963407ULL;
+
+}  // namespace
+
+std::uint32_t Rnd::NextBits() {
+  const std::uint64_t old = state_;
+  state_ = old * kMultiplier + kIncrement;
+  const auto mixed = static_cast<std::uint32_t>(((old >> 18U) ^ old) >> 27U);
+  return std::rotr(mixed, static_cast<int>(old >> 59U));
+}
+
+double Rnd::Next() {
+  return NextBits() * 0x1p-32;
+}
+
+int Rnd::Below(double range) {
+  constexpr double kLargest = 2147483647.0;
+  return static_cast<int>(std::clamp(Next() * range, 0.0, kLargest));
+}
+
+void Rnd::Reseed(std::uint64_t mix) {
+  state_ = (state_ ^ mix) * kMultiplier + kIncrement;
+  NextBits();
+}
+
+}  // namespace coilrun

@@ -1,0 +1,74 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string_view>
+
+namespace coilrun {
+
+/// Where a head goes, or what a body cell shows: a direction, or a turn code of the direction in
+/// which the snake entered the cell and the one in which it left ("FL": came up, went left).
+/// `kNone` stands still.
+enum class Dir : std::uint8_t {
+  kNone,
+  kForw,
+  kBack,
+  kLeft,
+  kRight,
+  kFL,
+  kFR,
+  kBL,
+  kBR,
+  kLF,
+  kLB,
+  kRF,
+  kRB
+};
+
+/// Kinds of walls by the picture that they show.
+enum class WallKind : std::uint8_t { kNone, kV, kH, kVL, kVR, kHT, kHB, kS };
+
+/// The six kinds of items, in the order in which they are eaten and placed.
+enum class ItemKind : std::uint8_t { kYellow, kRed, kBlue, kBlack, kTnt, kPower };
+inline constexpr int kItemKinds = 6;
+
+enum class GameMode : std::uint8_t { kSingle, kDeathmatch, kNetDeathmatch };
+
+/// What the options page is asked to do with the line under its cursor.
+enum class MenuAction : std::uint8_t { kNone, kCycle, kMinus, kPlus };
+
+/// What typed characters edit.
+enum class InputTarget : std::uint8_t { kNone, kPlayerName, kCheat };
+
+constexpr bool IsMultiplayer(GameMode mode) {
+  return mode != GameMode::kSingle;
+}
+constexpr bool IsDirection(Dir dir) {
+  return dir >= Dir::kForw && dir <= Dir::kRight;
+}
+constexpr bool IsTurn(Dir dir) {
+  return dir >= Dir::kFL;
+}
+
+/// The words as files, scripts and traces write them; "" for `kNone`.
+std::string_view Word(Dir dir);
+std::string_view Word(WallKind kind);
+std::string_view Word(GameMode mode);
+std::string_view Word(MenuAction action);
+std::string_view Word(InputTarget target);
+
+/// The value with exactly this word: FromWord<Dir>("Left").
+template <typename Enum>
+std::optional<Enum> FromWord(std::string_view word);
+template <>
+std::optional<Dir> FromWord<Dir>(std::string_view word);
+template <>
+std::optional<WallKind> FromWord<WallKind>(std::string_view word);
+template <>
+std::optional<GameMode> FromWord<GameMode>(std::string_view word);
+template <>
+std::optional<MenuAction> FromWord<MenuAction>(std::string_view word);
+template <>
+std::optional<InputTarget> FromWord<InputTarget>(std::string_view word);
+
+}  // namespace coilrun
