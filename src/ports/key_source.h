@@ -2,7 +2,6 @@
 
 #include <array>
 #include <cstdint>
-#include <optional>
 
 namespace coilrun {
 
@@ -11,16 +10,23 @@ using KeySnapshot = std::array<std::uint8_t, 256>;
 
 enum class WindowEvent { kFocusLost, kFocusGained, kClose, kToggleFullScreen };
 
+/// Who is told at once when something happens to the window. May throw `Terminate`.
+class WindowListener {
+ public:
+  virtual ~WindowListener() = default;
+
+  virtual void OnWindowEvent(WindowEvent event) = 0;
+};
+
 /// The player's hands: a keyboard and a window, or a script.
 class KeySource {
  public:
   virtual ~KeySource() = default;
 
-  /// Gathers what has happened since the last call; called once at the start of every yield. May
-  /// throw `Terminate`.
-  virtual void Gather() = 0;
-  /// The next thing that happened to the window, oldest first.
-  virtual std::optional<WindowEvent> NextEvent() = 0;
+  /// Takes in what has happened since the last call, window events through the listener as they
+  /// come, in order; called once at the start of every yield (a script runs the commands that are
+  /// due). May throw `Terminate`.
+  virtual void Gather(WindowListener& listener) = 0;
   /// Brings the snapshot up to date, with at most one change of each key, so that a short tap is
   /// seen down and then up.
   virtual void ReadKeys(KeySnapshot& keys) = 0;
