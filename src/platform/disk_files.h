@@ -1,0 +1,39 @@
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include "platform/real_root.h"
+#include "ports/files.h"
+
+namespace coilrun {
+
+/// The game's files in two real folders: the program folder, and the player's own that covers it
+/// where the program folder cannot be written.
+class DiskFiles : public Files {
+ public:
+  /// `user` may be missing; it is made when something is first written to it. `probe` tells whether
+  /// the program folder can be written.
+  using Probe = bool (*)(const std::filesystem::path& folder);
+  DiskFiles(const std::filesystem::path& program, const std::optional<std::filesystem::path>& user,
+            Probe probe = CanWriteInto);
+
+  bool Exists(const std::string& path) const override;
+  std::optional<Bytes> Read(const std::string& path) const override;
+  std::optional<std::vector<std::string>> List(const std::string& folder,
+                                               std::string_view suffix) const override;
+  bool Write(const std::string& path, std::span<const std::uint8_t> contents) override;
+  bool MakeFolder(const std::string& path) override;
+  bool Delete(const std::string& path) override;
+  std::string FullName(const std::string& path) const override;
+
+ private:
+  std::optional<GamePath> Parse(const std::string& path) const;
+  std::vector<const RealRoot*> WriteOrder() const;
+
+  RealRoot program_;
+  std::optional<RealRoot> user_;
+  bool programWritable_;
+};
+
+}  // namespace coilrun

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace coilrun {
+
+/// The folders and the name of a game path below the program folder, in Windows-1252. None of them
+/// can lead upwards or name a device, a drive or a control character.
+using GamePath = std::vector<std::string>;
+
+/// Splits what follows the root of a path at separators of both kinds; nothing when a part of it
+/// leads elsewhere. One separator at either end is allowed.
+std::optional<GamePath> ParseGamePath(std::string_view belowRoot);
+/// Lower-case text, umlauts too, for comparing names without regard to case.
+std::string FoldCase(std::string_view windows1252);
+
+}  // namespace coilrun

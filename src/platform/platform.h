@@ -1,0 +1,80 @@
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "ports/archive.h"
+#include "ports/audio_out.h"
+#include "ports/clock.h"
+#include "ports/files.h"
+#include "ports/key_source.h"
+#include "ports/message_box.h"
+#include "ports/music_out.h"
+#include "ports/picture_sink.h"
+#include "ports/screen.h"
+#include "ports/settings_store.h"
+#include "ports/text_face.h"
+
+namespace coilrun {
+
+/// Where a run finds its files and how it shows itself. `windowed` counts in a window only, `fps`
+/// (1 to 1000) headless only.
+struct PlatformOptions {
+  /// The program folder; nothing for the folder of the executable or the installed share folder.
+  std::optional<std::filesystem::path> data;
+  /// Holds the settings and, in "data", unpacked files; nothing for the per-user folders (headless:
+  /// a fresh one that is removed at the end).
+  std::optional<std::filesystem::path> user;
+  bool windowed = false;
+  int fps = 100;
+  /// Takes one line for each thing that is wrong but does not end the game (a damaged settings
+  /// file, missing fonts); each is reported once.
+  std::function<void(const std::string& line)> report = [](const std::string&) {};
+};
+
+/// The ports that every run has; they live as long as their platform.
+struct CommonPorts {
+  Clock& clock;
+  Screen& screen;
+  AudioOut& audio;
+  MusicOut& music;
+  Files& files;
+  Archive& archive;
+  SettingsStore& settings;
+  TextFace& text;
+};
+
+class Platform {
+ public:
+  virtual ~Platform() = default;
+
+  virtual const CommonPorts& Ports() const = 0;
+};
+
+/// A window, a keyboard and controllers, loudspeakers.
+class WindowPlatform : public Platform {
+ public:
+  virtual KeySource& Keys() = 0;
+  virtual MessageBox& Boxes() = 0;
+};
+
+/// No window, no sound, virtual time. Keys and answers are the script's business.
+class HeadlessPlatform : public Platform {
+ public:
+  virtual PictureSink& Pictures() = 0;
+};
+
+/// What a maker made: the platform, or else the reason in words why there is none.
+template <typename Made>
+struct PlatformResult {
+  std::unique_ptr<Made> platform;
+  std::string problem;
+};
+
+PlatformResult<WindowPlatform> MakeSdlPlatform(const PlatformOptions& options);
+PlatformResult<HeadlessPlatform> MakeHeadlessPlatform(const PlatformOptions& options);
+
+}  // namespace coilrun
