@@ -1,0 +1,11 @@
+#pragma once
+
+#include "game/game.h"
+
+namespace coilrun {
+
+/// Field edge, eating, bodies and level completion for every snake: once a pass, after
+/// `CapLengths`. Deaths and completions run whole, waits included, before the next snake's turn.
+void ColChk(Game& game);
+
+}  // namespace coilrun

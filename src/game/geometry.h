@@ -1,0 +1,62 @@
+#pragma once
+
+#include "model/records.h"
+
+namespace coilrun {
+
+/// How far a head may be from a thing and still touch it, all bounds included.
+struct Reach {
+  int minX;
+  int maxX;
+  int minY;
+  int maxY;
+
+  constexpr bool Touches(Point head, Point thing) const {
+    const int dx = head.x - thing.x;
+    const int dy = head.y - thing.y;
+    return minX <= dx && dx <= maxX && minY <= dy && dy <= maxY;
+  }
+};
+
+/// Touch is lopsided on purpose: 16 pixels before an obstacle, 12 after it.
+inline constexpr Reach kObstacleReach{-16, 12, -16, 12};
+
+/// True when the cells at these two positions share a pixel.
+constexpr bool Overlap(Point a, Point b) {
+  const int dx = a.x - b.x;
+  const int dy = a.y - b.y;
+  return -kCell < dx && dx < kCell && -kCell < dy && dy < kCell;
+}
+
+/// One step from `from`; standing still and turn codes lead nowhere.
+constexpr Point Stepped(Point from, Dir dir) {
+  switch (dir) {
+    case Dir::kLeft:
+      return {from.x - kCell, from.y};
+    case Dir::kRight:
+      return {from.x + kCell, from.y};
+    case Dir::kForw:
+      return {from.x, from.y - kCell};
+    case Dir::kBack:
+      return {from.x, from.y + kCell};
+    default:
+      return from;
+  }
+}
+
+constexpr Dir Reverse(Dir dir) {
+  switch (dir) {
+    case Dir::kLeft:
+      return Dir::kRight;
+    case Dir::kRight:
+      return Dir::kLeft;
+    case Dir::kForw:
+      return Dir::kBack;
+    case Dir::kBack:
+      return Dir::kForw;
+    default:
+      return Dir::kNone;
+  }
+}
+
+}  // namespace coilrun

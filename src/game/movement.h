@@ -1,0 +1,20 @@
+#pragma once
+
+#include "model/state.h"
+
+namespace coilrun {
+
+/// Takes the direction that the player asked for, unless it is the exact reverse.
+void TurnPlayer(State& state);
+/// Moves a head one step in its direction.
+void MoveHead(State& state, int snake);
+/// One step of an AI snake's head; while the level waits for its start the snake stands still.
+void AIStep(State& state, int snake);
+/// Makes the body follow its head: once after each head step.
+void BodyUpdate(State& state, int snake);
+/// Pays out one cell of every snake's pending growth: once a pass.
+void ApplyGrowth(State& state);
+/// Cuts every snake to the length that a body can hold: before each `ColChk`.
+void CapLengths(State& state);
+
+}  // namespace coilrun

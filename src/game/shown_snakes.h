@@ -1,0 +1,18 @@
+#pragma once
+
+#include "model/state.h"
+
+namespace coilrun {
+
+/// Which snakes a frame shows.
+using SnakesShown = Table<bool, kMaxSnakes>;
+
+/// Puts the heads of waiting snakes on their start cells; called beside the start markers.
+void PlaceWaitingSnakes(State& state);
+/// The main loop's pass over the snakes: a snake that waits for the start ends it. Ends an
+/// immortality that has run out; immortal snakes share one blink.
+SnakesShown SnakesShownInLoop(State& state);
+/// The same for a complete frame (`DrawSnakes`), where a waiting snake is only skipped.
+SnakesShown SnakesShownInFrame(State& state);
+
+}  // namespace coilrun

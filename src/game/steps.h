@@ -1,0 +1,16 @@
+#pragma once
+
+#include "game/game.h"
+
+namespace coilrun {
+
+/// Steps every AI snake whose timer has fired, and switches all fired AI timers on again.
+void StepAiSnakes(State& state);
+
+bool PlayerStepDue(const State& state);
+/// The player's step up to the head's move and the time limit; items and walls are drawn next.
+void BeginPlayerStep(Game& game);
+/// The body follows, and the step timer runs again.
+void EndPlayerStep(State& state);
+
+}  // namespace coilrun
