@@ -1,0 +1,66 @@
+#pragma once
+
+#include <cstdint>
+#include <iosfwd>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "model/state.h"
+#include "ports/clock.h"
+#include "ports/key_source.h"
+#include "ports/message_box.h"
+#include "ports/music_out.h"
+#include "ports/picture_sink.h"
+#include "script/script.h"
+
+namespace coilrun {
+
+/// What a script is played on. All of it outlives the player.
+struct ScriptStage {
+  State& state;
+  const Clock& clock;
+  const MusicOut& music;
+  PictureSink& pictures;
+  std::ostream& trace;     ///< where `state` lines go
+  std::ostream& messages;  ///< message boxes and errors (standard error)
+};
+
+/// The hands of a headless run: keys, window events, answers, and all else that a script asks for.
+/// An empty script plays too. `Gather` leaves the program with `Terminate`: with 0 at `end`; with 2
+/// and one line of explanation when a step fails, ten virtual minutes after the last command, and
+/// after a million calls without time moving.
+class ScriptPlayer final : public KeySource, public MessageBox {
+ public:
+  ScriptPlayer(Script script, const ScriptStage& stage);
+
+  void Gather(WindowListener& listener) override;
+  void ReadKeys(KeySnapshot& keys) override;
+
+  /// Prints the box and takes the oldest answer that is due; without one it is No, or OK.
+  BoxAnswer Show(const std::string& title, const std::string& text, BoxButtons buttons) override;
+
+ private:
+  struct KeyChange {
+    std::uint8_t code = 0;
+    bool down = false;
+  };
+
+  void CheckThatTimeMoves(std::int64_t now);
+  void Run(const ScriptStep& step, WindowListener& listener);
+  void QueueKey(std::uint8_t code, bool down);
+  void WriteState();
+  [[noreturn]] void Fail(const ScriptStep& step, std::string_view what);
+  [[noreturn]] void Abandon(std::string_view what);
+
+  Script script_;
+  ScriptStage stage_;
+  std::size_t nextStep_ = 0;
+  std::size_t nextAnswer_ = 0;
+  std::vector<KeyChange> keyChanges_;  ///< not yet seen by a poll, oldest first
+  KeySnapshot held_{};                 ///< after all queued changes
+  std::int64_t lastNow_ = -1;
+  int yieldsWithoutTime_ = 0;
+};
+
+}  // namespace coilrun
