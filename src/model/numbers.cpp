@@ -38,24 +38,38 @@ bool StartsLikeANumber(std::string_view text) {
   return std::isdigit(static_cast<unsigned char>(text[at])) != 0 || text[at] == '.';
 }
 
+struct ParsedNumber {
+  double value = 0;
+  std::size_t length = 0;
+};
+
 /// The longest number at the start of `text`, if there is one.
-std::optional<double> NumberAtStart(std::string_view text) {
+std::optional<ParsedNumber> ParseAtStart(std::string_view text) {
+  const std::size_t all = text.size();
   if (!text.empty() && text[0] == '+') text.remove_prefix(1);
   if (!StartsLikeANumber(text)) return std::nullopt;
+  const bool negative = text[0] == '-';
   double value = 0;
-  const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
-  if (result.ec == std::errc::result_out_of_range) {
-    return text[0] == '-' ? -std::numeric_limits<double>::max()
-                          : std::numeric_limits<double>::max();
-  }
-  if (result.ec != std::errc{}) return std::nullopt;
-  return value;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+  const std::size_t length = all - text.size() + static_cast<std::size_t>(end - text.data());
+  constexpr double kLargest = std::numeric_limits<double>::max();
+  if (error == std::errc::result_out_of_range)
+    return ParsedNumber{negative ? -kLargest : kLargest, length};
+  if (error != std::errc{}) return std::nullopt;
+  return ParsedNumber{value, length};
 }
 
 }  // namespace
 
 double LeadingNumber(std::string_view text, bool commaIsPoint) {
-  return NumberAtStart(WithoutBlanks(text, commaIsPoint)).value_or(0);
+  return ParseAtStart(WithoutBlanks(text, commaIsPoint)).value_or(ParsedNumber{}).value;
+}
+
+std::optional<double> WholeNumber(std::string_view text, bool commaIsPoint) {
+  const std::string digits = WithoutBlanks(text, commaIsPoint);
+  const auto number = ParseAtStart(digits);
+  if (!number || number->length != digits.size()) return std::nullopt;
+  return number->value;
 }
 
 std::optional<int> ToInt16(double number) {
@@ -71,9 +85,9 @@ std::optional<int> ToInt32(double number) {
 std::optional<bool> ToBoolean(std::string_view text) {
   if (EqualsIgnoringCase(text, "true")) return true;
   if (EqualsIgnoringCase(text, "false")) return false;
-  const auto number = NumberAtStart(WithoutBlanks(text, false));
+  const auto number = ParseAtStart(WithoutBlanks(text, false));
   if (!number) return std::nullopt;
-  return *number != 0;
+  return number->value != 0;
 }
 
 std::string NumberText(double number) {

@@ -20,6 +20,9 @@ inline int RoundToInt(double value) {
 /// one. A ',' is a decimal point only when asked for.
 double LeadingNumber(std::string_view text, bool commaIsPoint = false);
 
+/// The number that the whole text is, blanks around it allowed; nothing when it is no number.
+std::optional<double> WholeNumber(std::string_view text, bool commaIsPoint = false);
+
 /// `LeadingNumber` rounded into 16 or 32 bits; nothing when it does not fit.
 std::optional<int> ToInt16(double number);
 std::optional<int> ToInt32(double number);

@@ -56,7 +56,7 @@ struct ModeState {
   Int16 MatchLimit;
   Int16 NumSnakes = 1;
   bool AiEnabled = false;
-  Int16 AiCount;
+  double AiCount = 0;
   bool AiSwitchGiven = false;
   bool LevelSwitchGiven = false;
   std::string StartLevelName;
