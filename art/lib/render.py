@@ -52,7 +52,7 @@ class Scene:
     def outputs(self):
         if not self.frames:
             return [WORK / f"{self.key()}.png"]
-        digits = len(str(self.frames))
+        digits = len(str(self.frames + 1))  # a cyclic run counts one more
         return [WORK / f"{self.key()}-{n:0{digits}d}.png" for n in range(1, self.frames + 1)]
 
     def target(self):
@@ -103,7 +103,8 @@ def _run(job):
         check=False,
     )
     if done.returncode != 0:
-        sys.exit(f"{' '.join(job.command(job.target()))}\n{done.stderr[-600:]}")
+        complaint = done.stderr[max(done.stderr.find("File '"), len(done.stderr) - 600) :]
+        sys.exit(f"{' '.join(job.command(job.target()))}\n{complaint}")
     return outputs
 
 
