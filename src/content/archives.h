@@ -1,0 +1,35 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "content/context.h"
+
+namespace coilrun {
+
+/// Protects all archives of the game but the model packs.
+inline constexpr std::string_view kArchivePassword = "sn80463";
+
+/// What became of an archive: how many of its entries were processed and how many were not, because
+/// they are damaged or ask for a place where they may not lie.
+struct UnpackResult {
+  bool opened = false;
+  int processed = 0;
+  int refused = 0;
+};
+
+/// True for a file or a folder.
+bool FileExists(const Files& files, const std::string& path);
+
+/// Unpacks an archive (a game path) into `folder` (a game path that ends in "\") and notes its
+/// files in the archive's clean-up list, which is on disk before the first of them. Files that
+/// exist are passed over unless this is a new installation. An empty password is none.
+UnpackResult SnUnextractFile(const ContentContext& context, const std::string& archive,
+                             const std::string& folder, std::string_view password);
+
+/// The files' part of leaving the game: ends the main loop and, unless they are to be kept, deletes
+/// every file that a clean-up list names, then the lists. Failures are ignored. The caller has
+/// given screen and keyboard back.
+void CleanUpFiles(const ContentContext& context);
+
+}  // namespace coilrun

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "content/context.h"
+
+namespace coilrun {
+
+/// Finds the model packs, unpacks them (only before the display is ready), reads their descriptions
+/// and loads their pictures. A pack that is no good costs a line on the console, nothing else.
+void SnGetModelPacks(const ContentContext& context);
+
+}  // namespace coilrun

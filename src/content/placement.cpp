@@ -1,0 +1,182 @@
+#include "content/placement.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdlib>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "model/numbers.h"
+
+namespace coilrun {
+namespace {
+
+constexpr int kSpawnPointDraws = 20000;
+constexpr int kSpotDraws = 100;
+
+/// Candidates for a free spot, in pixels.
+constexpr int kSpotColumns = 61;
+constexpr int kSpotRows = 44;
+constexpr int kSpotStep = 10;
+constexpr Point kFirstSpot{20, 20};
+
+constexpr Point Spot(int column, int row) {
+  return {kFirstSpot.x + column * kSpotStep, kFirstSpot.y + row * kSpotStep};
+}
+
+constexpr bool InField(Point spot) {
+  return 0 < spot.x && spot.x < 615 && 0 < spot.y && spot.y < 448;
+}
+
+/// How far around a thing nothing else may be placed, in pixels.
+constexpr std::array<int, kItemKinds> kItemKeepOut = {16, 14, 16, 14, 14, 14};
+constexpr int kWallKeepOut = 14;
+constexpr int kUserItemKeepOut = 16;
+constexpr int kBodyKeepOut = 10;
+/// Head, neck and first cell of the player do not keep items away.
+constexpr int kFirstBlockingSeg = 2;
+
+/// Shows `visit` every thing that keeps items away, with its keep-out distance, until it returns
+/// true; tells whether it did.
+template <typename Visit>
+bool AnyKeepOut(const State& state, const Visit& visit) {
+  for (std::size_t kind = 0; kind < kItemKeepOut.size(); ++kind) {
+    const ItemList& items = state.itemLists.at(kind);
+    for (int slot = 1; slot <= items.Live(); ++slot) {
+      if (items(slot).Present && visit(items(slot).At(), kItemKeepOut.at(kind))) return true;
+    }
+  }
+  for (const WallRec& wall : state.Walls) {
+    if (wall.Present && visit(wall.At(), kWallKeepOut)) return true;
+  }
+  for (int slot = 1; slot <= state.numUserItems; ++slot) {
+    const UserItemRec& item = state.UserItems(slot);
+    if (item.Present && visit(item.At(), kUserItemKeepOut)) return true;
+  }
+  const SnakeRec& player = state.Snakes(1);
+  for (int cell = kFirstBlockingSeg; cell <= player.Length && cell <= kLastSeg; ++cell) {
+    if (visit(Point{player.Seg(cell).X, player.Seg(cell).Y}, kBodyKeepOut)) return true;
+  }
+  return false;
+}
+
+/// The field as candidates: which of them are taken.
+class SpotMap {
+ public:
+  explicit SpotMap(const State& state) {
+    for (int row = 0; row < kSpotRows; ++row) {
+      for (int column = 0; column < kSpotColumns; ++column) {
+        if (!InField(Spot(column, row))) Take(column, row);
+      }
+    }
+    AnyKeepOut(state, [this](Point thing, int keepOut) {
+      TakeAround(thing, keepOut);
+      return false;
+    });
+  }
+
+  std::vector<Point> Free() const {
+    std::vector<Point> spots;
+    for (int row = 0; row < kSpotRows; ++row) {
+      for (int column = 0; column < kSpotColumns; ++column) {
+        if (!taken_.at(Index(column, row))) spots.push_back(Spot(column, row));
+      }
+    }
+    return spots;
+  }
+
+ private:
+  static std::size_t Index(int column, int row) {
+    return static_cast<std::size_t>(row * kSpotColumns + column);
+  }
+  /// First and last candidate on one axis between two positions.
+  static int FirstFrom(int position, int origin) {
+    return position <= origin ? 0 : (position - origin + kSpotStep - 1) / kSpotStep;
+  }
+  static int LastUpTo(int position, int origin, int count) {
+    return position < origin ? -1 : std::min((position - origin) / kSpotStep, count - 1);
+  }
+  void Take(int column, int row) { taken_.at(Index(column, row)) = true; }
+  void TakeAround(Point thing, int keepOut) {
+    const int lastColumn = LastUpTo(thing.x + keepOut, kFirstSpot.x, kSpotColumns);
+    const int lastRow = LastUpTo(thing.y + keepOut, kFirstSpot.y, kSpotRows);
+    for (int row = FirstFrom(thing.y - keepOut, kFirstSpot.y); row <= lastRow; ++row) {
+      for (int column = FirstFrom(thing.x - keepOut, kFirstSpot.x); column <= lastColumn;
+           ++column) {
+        Take(column, row);
+      }
+    }
+  }
+
+  std::array<bool, std::size_t{kSpotColumns} * kSpotRows> taken_{};
+};
+
+/// The loader's way: any free point, by lot.
+std::optional<int> DrawSpawnPoint(State& state) {
+  for (int draw = 0; draw < kSpawnPointDraws; ++draw) {
+    const int point = state.Rnd.Below(state.numSpawnPoints) + 1;
+    if (state.SpawnPoints(point).State.empty()) return point;
+  }
+  return std::nullopt;
+}
+
+/// The way during play: the first free point in order. A point whose item was just eaten is passed
+/// over once.
+std::optional<int> NextSpawnPoint(State& state) {
+  for (int number = 1; number <= state.numSpawnPoints; ++number) {
+    SpawnRec& point = state.SpawnPoints(number);
+    if (point.State == "new") {
+      point.State.clear();
+    } else if (point.Present && LeadingNumber(point.State) == 0) {
+      return number;
+    }
+  }
+  return std::nullopt;
+}
+
+std::optional<Point> FindFreeSpot(State& state) {
+  for (int draw = 0; draw < kSpotDraws; ++draw) {
+    const int column = state.Rnd.Below(kSpotColumns);
+    const int row = state.Rnd.Below(kSpotRows);
+    if (!IsSpotTaken(state, Spot(column, row))) return Spot(column, row);
+  }
+  const std::vector<Point> free = SpotMap(state).Free();
+  if (free.empty()) return std::nullopt;
+  return free.at(static_cast<std::size_t>(state.Rnd.Below(static_cast<double>(free.size()))));
+}
+
+void PutAt(ItemRec& item, Point place, int spawnPoint) {
+  item.X = place.x;
+  item.Y = place.y;
+  item.SpawnPoint = spawnPoint;
+}
+
+}  // namespace
+
+bool IsSpotTaken(const State& state, Point spot) {
+  if (!InField(spot)) return true;
+  return AnyKeepOut(state, [spot](Point thing, int keepOut) {
+    return std::abs(spot.x - thing.x) <= keepOut && std::abs(spot.y - thing.y) <= keepOut;
+  });
+}
+
+bool PlaceItem(State& state, ItemKind kind, int slot, bool initial) {
+  ReseedFromClock(state);
+  ItemRec& item = state.Items(kind)(slot);
+  if (state.numSpawnPoints >= 1) {
+    const auto number = initial ? DrawSpawnPoint(state) : NextSpawnPoint(state);
+    if (number) {
+      SpawnRec& point = state.SpawnPoints(*number);
+      PutAt(item, {point.X, point.Y}, *number);
+      point.State = std::to_string(slot);
+      return true;
+    }
+  }
+  constexpr int kNoSpawnPoint = -1;
+  const auto spot = FindFreeSpot(state);
+  PutAt(item, spot.value_or(kParked), kNoSpawnPoint);
+  return spot.has_value();
+}
+
+}  // namespace coilrun
