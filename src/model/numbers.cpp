@@ -31,11 +31,18 @@ bool EqualsIgnoringCase(std::string_view text, std::string_view lower) {
   });
 }
 
-/// from_chars reads words like "inf" too; a number starts with a sign, a digit or a point.
+/// from_chars reads words like "inf" too; what follows the sign of a number is a digit or a point.
 bool StartsLikeANumber(std::string_view text) {
-  const std::size_t at = !text.empty() && text[0] == '-' ? 1 : 0;
-  if (at >= text.size()) return false;
-  return std::isdigit(static_cast<unsigned char>(text[at])) != 0 || text[at] == '.';
+  return !text.empty() &&
+         (std::isdigit(static_cast<unsigned char>(text[0])) != 0 || text[0] == '.');
+}
+
+/// What a number beyond the range of doubles is taken for: 0, or the largest.
+double OutOfRange(std::string_view digits) {
+  const bool tiny = digits.find_first_of("eE") != digits.npos
+                        ? digits.find("e-") != digits.npos || digits.find("E-") != digits.npos
+                        : digits.find_first_not_of("0.") > digits.find('.');
+  return tiny ? 0 : std::numeric_limits<double>::max();
 }
 
 struct ParsedNumber {
@@ -45,18 +52,16 @@ struct ParsedNumber {
 
 /// The longest number at the start of `text`, if there is one.
 std::optional<ParsedNumber> ParseAtStart(std::string_view text) {
-  const std::size_t all = text.size();
-  if (!text.empty() && text[0] == '+') text.remove_prefix(1);
+  const bool negative = text.starts_with('-');
+  const std::size_t sign = negative || text.starts_with('+') ? 1 : 0;
+  text.remove_prefix(sign);
   if (!StartsLikeANumber(text)) return std::nullopt;
-  const bool negative = text[0] == '-';
   double value = 0;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-  const std::size_t length = all - text.size() + static_cast<std::size_t>(end - text.data());
-  constexpr double kLargest = std::numeric_limits<double>::max();
-  if (error == std::errc::result_out_of_range)
-    return ParsedNumber{negative ? -kLargest : kLargest, length};
-  if (error != std::errc{}) return std::nullopt;
-  return ParsedNumber{value, length};
+  if (error == std::errc::invalid_argument) return std::nullopt;
+  const auto length = static_cast<std::size_t>(end - text.data());
+  if (error == std::errc::result_out_of_range) value = OutOfRange(text.substr(0, length));
+  return ParsedNumber{negative ? -value : value, sign + length};
 }
 
 }  // namespace
