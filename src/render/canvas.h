@@ -1,0 +1,39 @@
+#pragma once
+
+#include <string_view>
+
+#include "model/state.h"
+#include "render/surface.h"
+
+namespace coilrun {
+
+/// The back buffer that everything is drawn on, the primary that is shown, and the witness of the
+/// texts on them.
+class Canvas {
+ public:
+  explicit Canvas(WitnessState& witness) : witness_(witness) {}
+
+  /// The back buffer: BltPic.
+  Surface& Back() { return back_; }
+  const Surface& Back() const { return back_; }
+  /// The shown buffer: BltPicFront, fades, the intro panel.
+  Surface& Primary() { return primary_; }
+  const Surface& Primary() const { return primary_; }
+
+  /// Fills the whole back buffer; its texts are gone.
+  void FillBack(Color color);
+  /// Draws a picture of the size of the screen, unkeyed, over a back buffer that is black where
+  /// there is none.
+  void DrawWhole(const Picture& picture);
+  /// Notes a text that was drawn on the back buffer; an empty one is not worth a note.
+  void RecordText(std::string_view text, int x, int y, std::string_view font);
+  /// Swaps back and primary, as the display did: the new back buffer holds an older frame.
+  void FlipBuffers();
+
+ private:
+  WitnessState& witness_;
+  Surface back_;
+  Surface primary_;
+};
+
+}  // namespace coilrun

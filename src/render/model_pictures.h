@@ -1,0 +1,61 @@
+#pragma once
+
+#include <array>
+
+#include "render/picture_loader.h"
+
+namespace coilrun {
+
+/// The pictures that a snake is drawn with, numbered as a model pack's files.
+enum class ModelPiece : std::uint8_t {
+  kHeadForw,
+  kHeadBack,
+  kHeadLeft,
+  kHeadRight,
+  kForw,
+  kBack,
+  kLeft,
+  kRight,
+  kBL,
+  kBR,
+  kFL,
+  kFR,
+  kBLInverse,
+  kBRInverse,
+  kFLInverse,
+  kFRInverse,
+  kTailForw,
+  kTailBack,
+  kTailLeft,
+  kTailRight,
+  kTailBL,
+  kTailBR,
+  kTailFL,
+  kTailFR,
+  kTailFL2,
+  kTailRF,
+  kTailLB,
+  kTailBR2,
+  kStart,
+};
+inline constexpr int kModelPieces = 29;
+
+/// The pictures of all model packs.
+class ModelPictures {
+ public:
+  ModelPictures(State& state, PictureLoader& loader);
+
+  /// Loads the pictures of model `model` (0 to 99) from its pack's folder below gfx, as far as its
+  /// flags ask for them; the others are unset.
+  void LoadModelPictures(int model);
+
+  /// Unset for a number that stands for no model.
+  const Picture& operator()(int model, ModelPiece piece) const;
+
+ private:
+  State& state_;
+  PictureLoader& loader_;
+  std::vector<std::array<Picture, kModelPieces>> models_;
+};
+
+}  // namespace coilrun

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+
+#include "model/state.h"
+#include "ports/files.h"
+#include "ports/message_box.h"
+#include "render/intro_panel.h"
+#include "render/picture.h"
+
+namespace coilrun {
+
+/// How a picture is loaded: `DD_CreateSurfFromFile`'s flags.
+struct LoadFlags {
+  bool modelPicture = false;  ///< belongs to a model pack: a missing one is only a console line
+  bool counted = false;       ///< moves the progress bar while the program starts
+};
+
+struct PictureSize {
+  int width = 0;
+  int height = 0;
+};
+
+/// Makes pictures from bitmap files.
+class PictureLoader {
+ public:
+  /// `giveUp` is called when the player answers a missing picture with No; it cleans up and throws
+  /// `Terminate`.
+  PictureLoader(State& state, const Files& files, MessageBox& messageBox, IntroPanel& panel,
+                std::function<void()> giveUp);
+
+  /// The picture in exactly that size (a bitmap of another size is stretched), or in the bitmap's
+  /// own without one. Unset when the file is missing or no bitmap; a missing one asks the player
+  /// while the program starts.
+  Picture DD_CreateSurfFromFile(const std::string& path, std::optional<PictureSize> size,
+                                KeyMode key, LoadFlags flags = {});
+
+ private:
+  Picture Load(const std::string& path, std::optional<PictureSize> size, KeyMode key);
+  void TellMissing(const std::string& path, bool modelPicture);
+  void Count();
+
+  State& state_;
+  const Files& files_;
+  MessageBox& messageBox_;
+  IntroPanel& panel_;
+  std::function<void()> giveUp_;
+};
+
+}  // namespace coilrun
