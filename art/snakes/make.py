@@ -1,6 +1,8 @@
 #!/usr/bin/env python3
 """Draws the picture set of every snake model and writes its description."""
 
+import sys
+
 import numpy as np
 
 import models
@@ -32,23 +34,25 @@ def start_marker(model):
     canvas = Canvas()
     model.body(canvas, Ring(15.2, 5, scale=0.42))
     canvas.z -= 8
-    model.head(canvas, Path(BACK, BACK, centre=(CELL / 2, CELL / 2 + 0.7), scale=0.6))
+    model.head(canvas, Path(BACK, BACK, joined=(False, False), centre=(CELL / 2, CELL / 2 + 0.7), scale=0.6))
     return canvas.picture()
 
 
 def pictures(model):
     """All 29 pictures by name."""
-    made = {name: draw(model.head, Path(way, way)) for name, way in HEADS.items()}
+    made = {name: draw(model.head, Path(way, way, joined=(True, False))) for name, way in HEADS.items()}
     made |= {name: draw(model.body, Path(way, way)) for name, way in STRAIGHT.items()}
     made |= {name: draw(model.body, Path(*ways)) for name, ways in (CORNERS | LEFT_CORNERS).items()}
-    made |= {name: draw(model.tail, Path(way, way)) for name, way in TAILS.items()}
-    made |= {name: draw(model.tail, Path(*ways)) for name, ways in TAIL_CORNERS.items()}
+    made |= {name: draw(model.tail, Path(way, way, joined=(False, True))) for name, way in TAILS.items()}
+    made |= {name: draw(model.tail, Path(*ways, joined=(False, True))) for name, ways in TAIL_CORNERS.items()}
     made["start"] = start_marker(model)
     return made
 
 
 def main():
     for model in models.ALL:
+        if len(sys.argv) > 1 and model.folder not in sys.argv[1:]:
+            continue
         made = pictures(model)
         for name, picture in made.items():
             reduce.save(picture, TARGET / model.folder / f"{name}.png")

@@ -13,6 +13,7 @@ from lib import reduce
 CELL = 20
 FINE = 8  # samples a pixel and axis
 MARGIN = 6  # pixels around the cell that are drawn and cut off
+INSET = 1.2  # pixels next to a joined side that only the joined tube itself may touch
 FORW, BACK, LEFT, RIGHT = (0, -1), (0, 1), (-1, 0), (1, 0)
 
 
@@ -63,7 +64,8 @@ def rounded(curve, end, length, forward=True):
 class Path:
     """The middle line of a piece, entered in one direction and left in another."""
 
-    def __init__(self, enter, leave, centre=(CELL / 2, CELL / 2), scale=1.0):
+    def __init__(self, enter, leave, joined=(True, True), centre=(CELL / 2, CELL / 2), scale=1.0):
+        self.joined = joined
         self.enter, self.leave = np.array(enter, float), np.array(leave, float)
         self.centre, self.scale = np.array(centre, float), scale
         self.straight = tuple(enter) == tuple(leave)
@@ -96,6 +98,14 @@ class Path:
         tx, ty = np.where(out, b[0], tx), np.where(out, b[1], ty)
         return s, d, tx, ty
 
+    def room(self, x, y):
+        """Distance in pixels from the nearest side of the cell where another piece joins."""
+        x, y = (x - self.centre[0]) / self.scale, (y - self.centre[1]) / self.scale
+        behind = (x - self.start[0]) * self.enter[0] + (y - self.start[1]) * self.enter[1]
+        ahead = 10 - x * self.leave[0] - y * self.leave[1]
+        far = np.full_like(x, 99.0)
+        return np.minimum(behind if self.joined[0] else far, ahead if self.joined[1] else far)
+
     def place(self, s, d=0.0):
         """The point (x, y) and the direction (tx, ty) at a place on the path."""
         a, b = self.enter, self.leave
@@ -115,7 +125,7 @@ class Ring(Path):
     """A closed circle; s counts a number of cells around it."""
 
     def __init__(self, radius, cells, centre=(CELL / 2, CELL / 2), scale=1.0):
-        super().__init__(RIGHT, RIGHT, centre, scale)
+        super().__init__(RIGHT, RIGHT, (False, False), centre, scale)
         self.radius, self.cells = radius, cells
 
     def field(self, x, y):
@@ -159,7 +169,12 @@ class Canvas:
         """A tube along the path. radius(s) in pixels; paint(s, v) with v from -1 (right edge) to 1 gives
         a dictionary for put and, as "bump", a relief in pixels. power 2 is round, more is boxy."""
         s, d, tx, ty = path.field(self.x, self.y)
+        room = path.room(self.x, self.y)
+        first, last = radius(np.zeros(1))[0], radius(np.ones(1))[0]
         r = radius(s)
+        if any(path.joined):
+            border = np.where((s < 0.5) if path.joined[0] else np.zeros_like(s, bool), first, last)
+            r = border + (r - border) * step(room, INSET + 0.8, 0.8)
         bend = (radius(s + 0.005) - radius(s - 0.005)) / (0.01 * CELL)
         x = np.clip(np.abs(d) / np.maximum(r, 1e-6), 0, 0.995)
         inside = (np.abs(d) < r) & (r > 0.05)
@@ -176,6 +191,10 @@ class Canvas:
             slope_x, slope_y = slope_x + np.clip(gx, -2, 2), slope_y + np.clip(gy, -2, 2)
         self.put(inside, path.scale * z + lift, slope_x, slope_y, **look)
 
+    def free(self, path):
+        """Where shapes may lie that do not go on in the next piece."""
+        return path.room(self.x, self.y) > INSET
+
     def ball(self, path, s, d, z, size, colour, gloss=0.5, glow=0.0, turn=0.0):
         """An ellipsoid: size is (along, across, up) in pixels, turn an angle to the left in degrees."""
         (cx, cy), (tx, ty) = path.place(s, d)
@@ -187,7 +206,7 @@ class Canvas:
         far = p * p + q * q
         root = np.sqrt(np.maximum(1 - far, 0.02))
         sp, sq = -up * p / root / along, -up * q / root / across
-        self.put(far < 1, path.scale * z + up * root, sp * ux + sq * uy, sp * uy - sq * ux, colour, gloss, glow)
+        self.put((far < 1) & self.free(path), path.scale * z + up * root, sp * ux + sq * uy, sp * uy - sq * ux, colour, gloss, glow)
 
     def stroke(self, path, places, radius, z, colour, gloss=0.3, glow=0.0):
         """A rounded line through places (s, d) of the path; the radius may be a pair (from, to)."""
@@ -202,7 +221,7 @@ class Canvas:
             dx, dy = self.x - ax - along * ex, self.y - ay - along * ey
             far = (dx * dx + dy * dy) / (r * r)
             root = np.sqrt(np.maximum(1 - far, 0.02))
-            self.put(far < 1, path.scale * z + r * root, -dx / r / root, -dy / r / root, colour, gloss, glow)
+            self.put((far < 1) & self.free(path), path.scale * z + r * root, -dx / r / root, -dy / r / root, colour, gloss, glow)
 
     def dot(self, x, y, radius):
         """A white glint above everything at a point of the picture."""
@@ -220,7 +239,7 @@ class Canvas:
             inside &= ((bx - ax) * (self.y - ay) - (by - ay) * (self.x - ax)) * np.sign(side) >= 0
         _, (tx, ty) = path.place(*corners[0])
         zeros = np.zeros_like(self.x)
-        self.put(inside, zeros + path.scale * z, zeros + tilt[0] * tx + tilt[1] * ty,
+        self.put(inside & self.free(path), zeros + path.scale * z, zeros + tilt[0] * tx + tilt[1] * ty,
                  zeros + tilt[0] * ty - tilt[1] * tx, colour, gloss, glow)
 
     def lit(self):
