@@ -1,10 +1,10 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <iosfwd>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "model/state.h"
 #include "ports/clock.h"
@@ -41,15 +41,16 @@ class ScriptPlayer final : public KeySource, public MessageBox {
   BoxAnswer Show(const std::string& title, const std::string& text, BoxButtons buttons) override;
 
  private:
-  struct KeyChange {
-    std::uint8_t code = 0;
-    bool down = false;
+  /// Changes of a key alternate, so their number is the whole queue.
+  struct Key {
+    bool held = false;  ///< after all changes
+    int unseen = 0;     ///< changes that no poll has seen yet
   };
 
   void CheckThatTimeMoves(std::int64_t now);
   void Run(const ScriptStep& step, WindowListener& listener);
   void QueueKey(std::uint8_t code, bool down);
-  void WriteState();
+  void WriteState(const ScriptStep& step);
   [[noreturn]] void Fail(const ScriptStep& step, std::string_view what);
   [[noreturn]] void Abandon(std::string_view what);
 
@@ -57,8 +58,7 @@ class ScriptPlayer final : public KeySource, public MessageBox {
   ScriptStage stage_;
   std::size_t nextStep_ = 0;
   std::size_t nextAnswer_ = 0;
-  std::vector<KeyChange> keyChanges_;  ///< not yet seen by a poll, oldest first
-  KeySnapshot held_{};                 ///< after all queued changes
+  std::array<Key, std::tuple_size_v<KeySnapshot>> keys_{};
   std::int64_t lastNow_ = -1;
   int yieldsWithoutTime_ = 0;
 };
