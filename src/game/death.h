@@ -1,14 +1,20 @@
 #pragma once
 
+#include <cstdint>
+
 #include "game/game.h"
 
 namespace coilrun {
 
-enum class DeathCause : std::uint8_t { kWall = 1, kSnake = 2, kEdge = 3 };
+enum class DeathCause : std::uint8_t { kWall, kSnake, kEdge };
 
-/// The whole death of a snake, screens and a possible game over included. `other` is the owner of
-/// the body that was hit.
-void KillSnake(Game& game, int snake, DeathCause cause, int other = 0);
+/// The whole death of a snake, screens and a possible game over included. For `kSnake`, `other` is
+/// the owner of the body that was hit, the dying snake itself for its own.
+void KillSnake(Game& game, int snake, DeathCause cause, int other);
+/// Death by a wall or the edge.
+inline void KillSnake(Game& game, int snake, DeathCause cause) {
+  KillSnake(game, snake, cause, snake);
+}
 /// Puts a snake back on its start cell; in single play it costs a life.
 void RespawnSnake(State& state, int snake);
 

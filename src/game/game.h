@@ -1,5 +1,7 @@
 #pragma once
 
+#include <algorithm>
+
 #include "game/game_host.h"
 #include "model/state.h"
 
@@ -16,6 +18,12 @@ inline constexpr int kPlayer = 1;
 /// Snakes in play, whatever number the state holds: 1 to 16.
 inline int SnakesInPlay(const State& state) {
   return std::clamp<int>(state.mode.NumSnakes, 1, kMaxSnakes);
+}
+
+/// Puts a head on the snake's start cell.
+inline void PutOnStart(SnakeRec& snake) {
+  snake.X = int{snake.StartX};
+  snake.Y = int{snake.StartY};
 }
 
 /// The step timer of a snake, 1 to 16.

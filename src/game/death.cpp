@@ -1,0 +1,83 @@
+#include "game/death.h"
+
+#include "game/death_messages.h"
+#include "game/game_over.h"
+#include "game/waiting.h"
+#include "model/feed.h"
+
+namespace coilrun {
+namespace {
+
+constexpr std::string_view kDeathSound = "\\snd\\wall.wav";
+
+void LoseLifeScreen(Game& game) {
+  game.state.shell.WaitingAfterDeath = true;
+  SetCenterLine(game.state, 0, "Uh - You loose a live...", 215);
+  SetCenterLine(game.state, 1, "-Press Enter-", 230);
+  FrameCenterLines(game.state);
+  WaitForKey(game, kEnterKey);
+  ClearCenterLines(game.state);
+}
+
+void StandAtStart(State& state, int snake) {
+  SnakeRec& body = state.Snakes(snake);
+  PutOnStart(body);
+  body.Dir = Dir::kNone;
+  body.NextDir = Dir::kNone;
+  body.Tail.Dir = Dir::kNone;
+  body.Seg(1).Dir = Dir::kNone;
+  body.Immortal = false;
+  body.ImmortalSecs = 0;
+  state.settings.SpeedGain = 0;
+  state.timers.SetInterval(StepTimer(state, snake), body.BaseInterval);
+}
+
+void LoseLife(State& state, SnakeRec& body) {
+  if (body.Score < 0) body.Score = 0;
+  --body.Lives;
+  state.level.ElapsedSecs = 0;
+}
+
+void LoseHarvest(SnakeRec& body) {
+  body.YellowEaten = 0;
+  body.RedEaten = 0;
+  body.BlueEaten = 0;
+  body.BlackEaten = 0;
+  body.TNT = 0;
+}
+
+}  // namespace
+
+void KillSnake(Game& game, int snake, DeathCause cause, int other) {
+  State& state = game.state;
+  ++state.Snakes(snake).Deaths;
+  game.host.PlayEffect(kDeathSound, snake);
+  const int draw = state.Rnd.Below(3) + 1;
+  ReseedFromClock(state);
+  if (IsMultiplayer(state.mode.GameMode)) {
+    MessagePrint(state, DeathMessage(state.Snakes(snake), cause, state.Snakes(other), draw));
+  } else {
+    game.host.Yield();
+  }
+  if (snake == kPlayer) LoseLifeScreen(game);
+
+  game.host.LoadSettings();
+  RespawnSnake(state, snake);
+  if (state.level.HideCollected) RestoreCollectedItems(state);
+  ResetSpawnPoints(state);
+  state.shell.WaitingAfterDeath = false;
+  if (snake == kPlayer) CheckGameOver(game);
+}
+
+void RespawnSnake(State& state, int snake) {
+  SnakeRec& body = state.Snakes(snake);
+  ResetSnakeBody(state, snake);
+  StandAtStart(state, snake);
+  if (IsMultiplayer(state.mode.GameMode)) {
+    LoseHarvest(body);
+  } else {
+    LoseLife(state, body);
+  }
+}
+
+}  // namespace coilrun

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string>
+
+#include "game/death.h"
+
+namespace coilrun {
+
+/// What the feed says of a death in a match. `draw` is 1 to 3; `other` is the dying snake itself
+/// for its own body.
+std::string DeathMessage(const SnakeRec& victim, DeathCause cause, const SnakeRec& other, int draw);
+
+}  // namespace coilrun

@@ -1,0 +1,83 @@
+#include "game/game_over.h"
+
+#include <algorithm>
+#include <string>
+
+#include "content/snake_timers.h"
+#include "game/waiting.h"
+
+namespace coilrun {
+namespace {
+
+constexpr int kLivesOfAGame = 3;
+
+HiScoreEntry* BeatenEntry(State& state) {
+  const int total = state.Snakes(kPlayer).TotalScore;
+  auto* const found =
+      std::find_if(state.HiScore.begin(), state.HiScore.end(),
+                   [total](const HiScoreEntry& entry) { return entry.Score < total; });
+  return found == state.HiScore.end() ? nullptr : found;
+}
+
+/// Overwrites the entry; those below it are not moved down. The menus will open on the table.
+void StoreHighScore(Game& game, HiScoreEntry& entry) {
+  const SnakeRec& player = game.state.Snakes(kPlayer);
+  entry.Name = player.Name;
+  entry.Score = player.TotalScore;
+  game.host.SaveSettings();
+  game.state.menus.ScorePage = 1;
+  game.state.shell.InMenu = true;
+}
+
+void GameOverScreen(Game& game) {
+  State& state = game.state;
+  game.host.Yield();
+  state.overlay = WaitOverlay::kGameOver;
+  SetCenterLine(state, 0, "Game Over", 215);
+  SetCenterLine(state, 1, "-Press Enter-", 230);
+  SetCenterLine(state, 2, "Your Score: " + std::to_string(state.Snakes(kPlayer).TotalScore), 245);
+  if (HiScoreEntry* const beaten = BeatenEntry(state)) {
+    if (state.mode.Cheated) {
+      SetCenterLine(state, 3, "This would be a new High Score! - But you cheated!", 260);
+    } else {
+      SetCenterLine(state, 3, "This is a new High Score!", 260);
+      StoreHighScore(game, *beaten);
+    }
+  }
+  FrameCenterLines(state);
+  WaitForKey(game, kEnterKey);
+  ClearCenterLines(state);
+  state.overlay = WaitOverlay::kNone;
+}
+
+/// The next game starts at 0 with all lives; until then the menus are open.
+void LeaveGame(State& state) {
+  SnakeRec& player = state.Snakes(kPlayer);
+  player.TotalScore = 0;
+  player.Lives = kLivesOfAGame;
+  StopSnakeTimers(state);
+  state.shell.NoGameRunning = true;
+  state.shell.InMenu = true;
+}
+
+}  // namespace
+
+void CheckGameOver(Game& game) {
+  if (game.state.Snakes(kPlayer).Lives >= 0) return;
+  GameOverScreen(game);
+  LeaveGame(game.state);
+}
+
+void FinishGame(Game& game) {
+  HiScoreEntry* const beaten = BeatenEntry(game.state);
+  if (beaten != nullptr && !game.state.mode.Cheated) StoreHighScore(game, *beaten);
+  LeaveGame(game.state);
+}
+
+bool BeatsAHighScore(const State& state) {
+  const int total = state.Snakes(kPlayer).TotalScore;
+  return std::any_of(state.HiScore.begin(), state.HiScore.end(),
+                     [total](const HiScoreEntry& entry) { return entry.Score < total; });
+}
+
+}  // namespace coilrun

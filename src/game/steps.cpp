@@ -1,0 +1,38 @@
+#include "game/steps.h"
+
+#include "game/appearance.h"
+#include "game/movement.h"
+#include "game/progress.h"
+#include "game/walls.h"
+
+namespace coilrun {
+
+void StepAiSnakes(State& state) {
+  for (int s = kPlayer + 1; s <= kMaxSnakes; ++s) {
+    if (StepTimer(state, s).Enabled) continue;
+    if (s <= SnakesInPlay(state)) {
+      AIStep(state, s);
+      BodyUpdate(state, s);
+    }
+    state.timers.StartEvenly(StepTimer(state, s));
+  }
+}
+
+bool PlayerStepDue(const State& state) {
+  return !state.timers.iWait(0).Enabled;
+}
+
+void BeginPlayerStep(Game& game) {
+  DrawAppearances(game.state);
+  TurnPlayer(game.state);
+  WallCheck(game);
+  MoveHead(game.state, kPlayer);
+  CheckTimeLimit(game);
+}
+
+void EndPlayerStep(State& state) {
+  BodyUpdate(state, kPlayer);
+  state.timers.StartEvenly(StepTimer(state, kPlayer));
+}
+
+}  // namespace coilrun
