@@ -29,6 +29,7 @@ class DiskFiles : public Files {
 
  private:
   std::optional<GamePath> Parse(const std::string& path) const;
+  std::vector<const RealRoot*> ReadOrder() const;
   std::vector<const RealRoot*> WriteOrder() const;
 
   RealRoot program_;

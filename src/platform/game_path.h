@@ -8,7 +8,7 @@
 namespace coilrun {
 
 /// The folders and the name of a game path below the program folder, in Windows-1252. None of them
-/// can lead upwards or name a device, a drive or a control character.
+/// can lead upwards, name a drive or hold a control character.
 using GamePath = std::vector<std::string>;
 
 /// Splits what follows the root of a path at separators of both kinds; nothing when a part of it

@@ -2,8 +2,6 @@
 
 #include <array>
 #include <cstdint>
-#include <deque>
-#include <vector>
 
 #include "ports/key_source.h"
 
@@ -11,9 +9,11 @@ namespace coilrun {
 
 enum class KeyHolder : std::uint8_t { kKeyboard = 1, kButtons = 2, kStick = 4 };
 
-/// Key changes on their way to the game. A key held by several devices is up when all have let go.
+/// Key changes on their way to the game. A key held by several devices is up when all have let go;
+/// a press of a key that is down already (the keyboard's repetition) changes nothing.
 class KeyQueue {
  public:
+  /// Codes outside 1 to 255 are passed over.
   void Press(int code, KeyHolder holder);
   void Release(int code, KeyHolder holder);
   void ReleaseAll(KeyHolder holder);
@@ -22,12 +22,12 @@ class KeyQueue {
   void ReadKeys(KeySnapshot& keys);
 
  private:
-  void Hold(int code, std::uint8_t holders);
+  void Hold(std::size_t code, std::uint8_t holders);
 
   std::array<std::uint8_t, 256> holders_{};
-  std::array<std::uint8_t, 256> shown_{};
-  /// Changes not yet shown, per key; they alternate, so their number is enough.
+  /// The changes of a key alternate, so their number says all.
   std::array<std::uint8_t, 256> pending_{};
+  std::array<bool, 256> down_{};
 };
 
 }  // namespace coilrun

@@ -51,7 +51,7 @@ class Platform {
  public:
   virtual ~Platform() = default;
 
-  virtual const CommonPorts& Ports() const = 0;
+  virtual const CommonPorts& Common() const = 0;
 };
 
 /// A window, a keyboard and controllers, loudspeakers.

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <span>
+#include <vector>
 
 #include "ports/screen.h"
 
@@ -16,9 +17,13 @@ struct Area {
   bool operator==(const Area&) const = default;
 };
 
-/// Where a window of this size shows the screen: centred, scaled by a whole number when that fills
-/// the window well, else as large as fits.
-Area PictureArea(int windowWidth, int windowHeight);
+/// Rows from `first` up to, but without, `end`.
+struct RowRange {
+  int first = 0;
+  int end = 0;
+
+  bool operator==(const RowRange&) const = default;
+};
 
 /// Pixels of a window; `stride` counts pixels from one row to the next.
 struct Canvas {
@@ -26,8 +31,27 @@ struct Canvas {
   int stride = 0;
 };
 
-/// Draws the screen rows `firstRow` to `lastRow` into `area` by nearest neighbours.
-void ScaleRows(ScreenPixels screen, int firstRow, int lastRow, const Area& area,
-               const Canvas& canvas);
+/// Where a window of this size (1 x 1 at least) shows the screen: centred, scaled by a whole number
+/// when that fills the window well, else as large as fits.
+Area PictureArea(int windowWidth, int windowHeight);
+
+/// The screen rows that differ between two pictures; an empty range when none does.
+RowRange ChangedRows(ScreenPixels before, ScreenPixels after);
+
+/// The rows of the area, counted from its top, that show these screen rows.
+RowRange CanvasRows(const RowRange& screenRows, const Area& area);
+
+/// Draws the screen into an area of a canvas by nearest neighbours.
+class Scaler {
+ public:
+  /// Draws the given rows of the area; the area lies on the canvas as a whole.
+  void Draw(ScreenPixels screen, const RowRange& canvasRows, const Area& area,
+            const Canvas& canvas);
+
+ private:
+  void MapColumns(int width);
+
+  std::vector<std::uint16_t> columns_;
+};
 
 }  // namespace coilrun

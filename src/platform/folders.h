@@ -1,0 +1,48 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+
+namespace coilrun {
+
+/// The real places of a run.
+struct Folders {
+  std::filesystem::path program;
+  std::filesystem::path settingsFile;
+  std::filesystem::path unpacked;
+};
+
+/// What the process knows about where it runs, apart so that tests can say otherwise. Empty paths
+/// stand for variables that are not set.
+struct Surroundings {
+  std::filesystem::path executableFolder;
+  std::filesystem::path home;
+  std::filesystem::path configHome;
+  std::filesystem::path dataHome;
+};
+
+Surroundings FindSurroundings();
+
+/// The folder of the executable when it holds "lvl", else the share folder beside its bin folder.
+std::filesystem::path DefaultProgramFolder(const Surroundings& surroundings);
+/// Everything that belongs to one player in one folder.
+Folders FoldersIn(const std::filesystem::path& program, const std::filesystem::path& user);
+/// The places that the desktop's rules give to a player's files.
+Folders DefaultFolders(const std::filesystem::path& program, const Surroundings& surroundings);
+
+/// An empty folder of our own that is removed, with all that is in it, at the end of its scope.
+class TemporaryFolder {
+ public:
+  TemporaryFolder();
+  ~TemporaryFolder();
+  TemporaryFolder(const TemporaryFolder&) = delete;
+  TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+
+  /// Empty when no folder could be made.
+  const std::filesystem::path& Path() const { return path_; }
+
+ private:
+  std::filesystem::path path_;
+};
+
+}  // namespace coilrun

@@ -1,0 +1,104 @@
+#include "platform/ini_text.h"
+
+#include <algorithm>
+
+#include "ports/windows_1252.h"
+
+namespace coilrun {
+namespace {
+
+constexpr std::string_view kBlanks = " \t\r";
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
+bool IsControl(char character) {
+  const auto byte = static_cast<unsigned char>(character);
+  return byte < 0x20 || byte == 0x7F;
+}
+
+bool IsBadControl(char character) {
+  return IsControl(character) && character != '\t' && character != '\r' && character != '\n';
+}
+
+struct Sequence {
+  std::size_t length = 0;
+  unsigned char leastSecond = 0x80;
+  unsigned char mostSecond = 0xBF;
+};
+
+/// The well-formed sequences that begin with this byte; length 0 when there is none.
+Sequence SequenceFrom(unsigned char lead) {
+  if (lead < 0x80) return {1};
+  if (lead >= 0xC2 && lead <= 0xDF) return {2};
+  if (lead == 0xE0) return {3, 0xA0};
+  if (lead == 0xED) return {3, 0x80, 0x9F};
+  if (lead >= 0xE1 && lead <= 0xEF) return {3};
+  if (lead == 0xF0) return {4, 0x90};
+  if (lead == 0xF4) return {4, 0x80, 0x8F};
+  if (lead >= 0xF1 && lead <= 0xF3) return {4};
+  return {};
+}
+
+bool IsUtf8(std::string_view text) {
+  const auto byteAt = [&](std::size_t at) { return static_cast<unsigned char>(text[at]); };
+  while (!text.empty()) {
+    const Sequence sequence = SequenceFrom(byteAt(0));
+    if (sequence.length == 0 || sequence.length > text.size()) return false;
+    if (sequence.length > 1 &&
+        (byteAt(1) < sequence.leastSecond || byteAt(1) > sequence.mostSecond))
+      return false;
+    for (std::size_t i = 2; i < sequence.length; ++i)
+      if ((byteAt(i) & 0xC0U) != 0x80U) return false;
+    text.remove_prefix(sequence.length);
+  }
+  return true;
+}
+
+bool IsGoodLine(std::string_view line) {
+  const std::size_t first = line.find_first_not_of(kBlanks);
+  if (first == std::string_view::npos) return true;
+  line.remove_prefix(first);
+  switch (line.front()) {
+    case ';':
+    case '#':
+      return true;
+    case '[':
+      return line.find(']') != std::string_view::npos;
+    case '=':
+      return false;
+    default:
+      return line.find('=') != std::string_view::npos;
+  }
+}
+
+bool IsQuoted(std::string_view text) {
+  return text.size() >= 2 && text.front() == '"' && text.back() == '"';
+}
+
+}  // namespace
+
+std::optional<std::string> FindIniDamage(std::string_view text) {
+  if (text.starts_with(kByteOrderMark)) text.remove_prefix(kByteOrderMark.size());
+  if (std::any_of(text.begin(), text.end(), IsBadControl)) return "it holds control characters";
+  if (!IsUtf8(text)) return "it is not UTF-8 text";
+  for (int number = 1; !text.empty(); ++number) {
+    const std::size_t end = std::min(text.find('\n'), text.size());
+    if (!IsGoodLine(text.substr(0, end)))
+      return "line " + std::to_string(number) + " is neither a section nor a key with a value";
+    text.remove_prefix(std::min(end + 1, text.size()));
+  }
+  return std::nullopt;
+}
+
+std::string QuoteIniValue(std::string_view value) {
+  std::string text(value);
+  std::replace_if(text.begin(), text.end(), IsControl, ' ');
+  const bool blankEnd = !text.empty() && (text.front() == ' ' || text.back() == ' ');
+  return blankEnd || IsQuoted(text) ? "\"" + text + "\"" : text;
+}
+
+std::string UnquoteIniValue(std::string_view stored) {
+  if (IsQuoted(stored)) stored = stored.substr(1, stored.size() - 2);
+  return std::string(stored);
+}
+
+}  // namespace coilrun

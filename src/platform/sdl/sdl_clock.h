@@ -1,0 +1,19 @@
+#pragma once
+
+#include <chrono>
+
+#include "ports/clock.h"
+
+namespace coilrun {
+
+/// The time that the player lives in. Long waits keep the window alive.
+class SdlClock : public Clock {
+ public:
+  std::int64_t NowMicros() const override;
+  void Sleep(int milliseconds) override;
+
+ private:
+  std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
+};
+
+}  // namespace coilrun

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "platform/key_queue.h"
+#include "platform/sdl/sdl_controllers.h"
+#include "platform/sdl/sdl_window.h"
+#include "ports/key_source.h"
+
+namespace coilrun {
+
+/// The player's keyboard, controllers and window.
+class SdlKeys : public KeySource {
+ public:
+  explicit SdlKeys(SdlWindow& window) : window_(window), controllers_(keys_) {}
+
+  void Gather(WindowListener& listener) override;
+  void ReadKeys(KeySnapshot& keys) override { keys_.ReadKeys(keys); }
+
+ private:
+  void TakeKey(const SDL_KeyboardEvent& event, WindowListener& listener);
+  void TakeWindowEvent(const SDL_WindowEvent& event, WindowListener& listener);
+
+  SdlWindow& window_;
+  KeyQueue keys_;
+  SdlControllers controllers_;
+  bool hasFocus_ = true;
+};
+
+}  // namespace coilrun

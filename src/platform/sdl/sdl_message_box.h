@@ -1,0 +1,20 @@
+#pragma once
+
+#include "platform/sdl/sdl_window.h"
+#include "ports/message_box.h"
+
+namespace coilrun {
+
+/// The desktop's message box. Where none can be shown, the text goes to standard error and the
+/// answer is the careful one.
+class SdlMessageBox : public MessageBox {
+ public:
+  explicit SdlMessageBox(const SdlWindow& window) : window_(window) {}
+
+  BoxAnswer Show(const std::string& title, const std::string& text, BoxButtons buttons) override;
+
+ private:
+  const SdlWindow& window_;
+};
+
+}  // namespace coilrun

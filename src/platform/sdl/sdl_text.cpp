@@ -1,0 +1,146 @@
+#include "platform/sdl/sdl_text.h"
+
+#include <map>
+#include <set>
+#include <tuple>
+
+#include <SDL.h>
+#include <SDL_ttf.h>
+
+#include "ports/windows_1252.h"
+
+namespace coilrun {
+namespace {
+
+/// A face in both weights; the last one serves every name that is not here.
+struct Face {
+  std::string_view name;
+  const char* regular;
+  const char* bold;
+};
+
+constexpr Face kFaces[] = {
+    {"Balloon", "ComicNeue-Bold.ttf", "ComicNeue-Bold.ttf"},
+    {"Courier New", "LiberationMono-Regular.ttf", "LiberationMono-Bold.ttf"},
+    {"Arial", "LiberationSans-Regular.ttf", "LiberationSans-Bold.ttf"},
+};
+constexpr const Face& kSansFace = kFaces[2];
+
+const Face& FaceOf(std::string_view name) {
+  for (const Face& face : kFaces)
+    if (face.name == name) return face;
+  return kSansFace;
+}
+
+/// Points at 96 dots an inch, rounded, as the game's texts were laid out.
+int PixelSize(int points) {
+  return (points * 96 + 36) / 72;
+}
+
+struct FontCloser {
+  void operator()(TTF_Font* font) const { TTF_CloseFont(font); }
+};
+struct SurfaceFreer {
+  void operator()(SDL_Surface* surface) const { SDL_FreeSurface(surface); }
+};
+using Font = std::unique_ptr<TTF_Font, FontCloser>;
+using Surface = std::unique_ptr<SDL_Surface, SurfaceFreer>;
+
+/// The opacity of a rendered surface (0xAARRGGBB).
+TextMask MaskOf(const SDL_Surface& surface) {
+  TextMask mask{surface.w, surface.h, {}};
+  mask.coverage.reserve(static_cast<std::size_t>(surface.w) * static_cast<std::size_t>(surface.h));
+  const auto* const bytes = static_cast<const std::uint8_t*>(surface.pixels);
+  for (int y = 0; y < surface.h; ++y) {
+    const auto* const row = reinterpret_cast<const std::uint32_t*>(bytes + y * surface.pitch);
+    for (int x = 0; x < surface.w; ++x)
+      mask.coverage.push_back(static_cast<std::uint8_t>(row[x] >> 24U));
+  }
+  return mask;
+}
+
+}  // namespace
+
+class SdlText::Fonts {
+ public:
+  Fonts(std::filesystem::path folder, Report report)
+      : folder_(std::move(folder)), report_(std::move(report)), ready_(TTF_Init() == 0) {
+    if (!ready_) report_(std::string("No texts in system fonts: ") + TTF_GetError());
+  }
+  ~Fonts() {
+    fonts_.clear();
+    if (ready_) TTF_Quit();
+  }
+  Fonts(const Fonts&) = delete;
+  Fonts& operator=(const Fonts&) = delete;
+
+  int Measure(const FontStyle& style, std::string_view text) {
+    TTF_Font* const font = FontOf(style);
+    int width = 0;
+    if (font == nullptr || TTF_SizeUTF8(font, ToUtf8(text).c_str(), &width, nullptr) != 0) return 0;
+    return width;
+  }
+
+  const TextMask& Render(const FontStyle& style, std::string_view text) {
+    const Key key{style.face, style.size, style.bold, std::string(text)};
+    const auto known = rendered_.find(key);
+    if (known != rendered_.end()) return known->second;
+    if (rendered_.size() >= kMostRendered) rendered_.clear();
+    return rendered_.emplace(key, RenderNew(style, text)).first->second;
+  }
+
+ private:
+  using Key = std::tuple<std::string, int, bool, std::string>;
+  static constexpr std::size_t kMostRendered = 256;
+
+  TextMask RenderNew(const FontStyle& style, std::string_view text) {
+    TTF_Font* const font = FontOf(style);
+    if (font == nullptr || text.empty()) return {};
+    const Surface surface(TTF_RenderUTF8_Blended(font, ToUtf8(text).c_str(), {255, 255, 255, 255}));
+    return surface ? MaskOf(*surface) : TextMask{};
+  }
+
+  TTF_Font* FontOf(const FontStyle& style) {
+    const Face& face = FaceOf(style.face);
+    const char* const wanted = style.bold ? face.bold : face.regular;
+    TTF_Font* const font = Open(wanted, style.size);
+    if (font != nullptr || face.name == kSansFace.name) return font;
+    return Open(style.bold ? kSansFace.bold : kSansFace.regular, style.size);
+  }
+
+  /// The open font, opened at the first call; nothing, also the first time only looked for, when
+  /// there is none.
+  TTF_Font* Open(const char* file, int points) {
+    if (!ready_ || points <= 0) return nullptr;
+    const auto [entry, isNew] = fonts_.try_emplace({file, points});
+    if (isNew) {
+      const std::string path = (folder_ / file).string();
+      entry->second.reset(TTF_OpenFont(path.c_str(), PixelSize(points)));
+      if (!entry->second && missing_.insert(file).second)
+        report_("The font " + path + " cannot be opened");
+    }
+    return entry->second.get();
+  }
+
+  std::filesystem::path folder_;
+  Report report_;
+  bool ready_;
+  std::map<std::pair<std::string, int>, Font> fonts_;
+  std::set<std::string> missing_;
+  std::map<Key, TextMask> rendered_;
+};
+
+SdlText::SdlText(std::filesystem::path fontFolder, Report report)
+    : fonts_(std::make_unique<Fonts>(std::move(fontFolder), std::move(report))) {}
+
+SdlText::~SdlText() = default;
+
+int SdlText::Measure(const FontStyle& style, std::string_view text) {
+  return fonts_->Measure(style, text);
+}
+
+const TextMask& SdlText::Render(const FontStyle& style, std::string_view text) {
+  return fonts_->Render(style, text);
+}
+
+}  // namespace coilrun

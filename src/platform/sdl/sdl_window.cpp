@@ -1,0 +1,92 @@
+#include "platform/sdl/sdl_window.h"
+
+#include <chrono>
+#include <thread>
+
+#include "platform/png_file.h"
+
+namespace coilrun {
+namespace {
+
+constexpr const char* kTitle = "Coilrun";
+/// What a window's frame and a desktop's panel may take of the display's height.
+constexpr int kFrameRoom = 60;
+
+/// Twice the screen's size where the display has room for it.
+int StartScale() {
+  SDL_Rect usable{};
+  if (SDL_GetDisplayUsableBounds(0, &usable) != 0) return 1;
+  return usable.w >= 2 * kScreenWidth && usable.h >= 2 * kScreenHeight + kFrameRoom ? 2 : 1;
+}
+
+SdlPointer<SDL_Window> CreateWindow(bool windowed) {
+  Uint32 flags = SDL_WINDOW_RESIZABLE;
+  if (!windowed) flags |= SDL_WINDOW_FULLSCREEN_DESKTOP;
+  const int scale = StartScale();
+  return SdlPointer<SDL_Window>(SDL_CreateWindow(kTitle, SDL_WINDOWPOS_CENTERED,
+                                                 SDL_WINDOWPOS_CENTERED, kScreenWidth * scale,
+                                                 kScreenHeight * scale, flags));
+}
+
+}  // namespace
+
+SdlWindow::SdlWindow(const SdlClock& clock, bool windowed, const std::filesystem::path& icon)
+    : clock_(clock), windowed_(windowed) {
+  const bool hardware = HasHardwareRenderer();
+  window_ = CreateWindow(windowed);
+  if (!window_) {
+    problem_ = std::string("no window: ") + SDL_GetError();
+    return;
+  }
+  SDL_SetWindowMinimumSize(window_.get(), kScreenWidth / 2, kScreenHeight / 2);
+  SetIcon(icon);
+  if (hardware) presenter_ = MakeRendererPresenter(*window_);
+  if (!presenter_) presenter_ = MakeSurfacePresenter(*window_);
+}
+
+void SdlWindow::SetIcon(const std::filesystem::path& file) {
+  auto icon = ReadIcon(file);
+  if (!icon) return;
+  constexpr int kDepth = 32;
+  const SdlPointer<SDL_Surface> surface(
+      SDL_CreateRGBSurfaceWithFormatFrom(icon->pixels.data(), icon->width, icon->height, kDepth,
+                                         icon->width * 4, SDL_PIXELFORMAT_ARGB8888));
+  if (surface) SDL_SetWindowIcon(window_.get(), surface.get());
+}
+
+bool SdlWindow::IsHidden() const {
+  return (SDL_GetWindowFlags(window_.get()) & (SDL_WINDOW_MINIMIZED | SDL_WINDOW_HIDDEN)) != 0;
+}
+
+void SdlWindow::Flip(ScreenPixels primary) {
+  const bool hidden = IsHidden();
+  if (!hidden) presenter_->Show(primary, true);
+  if (!hidden && presenter_->Waits() && vsync_.HoldsBack(clock_.NowMicros())) return;
+  std::this_thread::sleep_for(std::chrono::microseconds(pacer_.Wait(clock_.NowMicros())));
+}
+
+void SdlWindow::Present(ScreenPixels primary) {
+  if (!IsHidden()) presenter_->Show(primary, false);
+}
+
+void SdlWindow::SetFullScreen(bool on) {
+  // A window over the desktop that has lost the focus lies behind others already; minimising it
+  // would take it from players who look at it on a second display.
+  if (on) ApplyFullScreen();
+}
+
+void SdlWindow::ToggleFullScreen() {
+  windowed_ = !windowed_;
+  ApplyFullScreen();
+}
+
+void SdlWindow::ApplyFullScreen() {
+  SDL_SetWindowFullscreen(window_.get(), windowed_ ? 0 : SDL_WINDOW_FULLSCREEN_DESKTOP);
+  presenter_->Forget();
+}
+
+void SdlWindow::ShowPointer(bool visible) {
+  SDL_ShowCursor(visible ? SDL_ENABLE : SDL_DISABLE);
+}
+
+}  // namespace coilrun

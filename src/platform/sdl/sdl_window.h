@@ -1,0 +1,46 @@
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <string>
+
+#include "platform/frame_pacer.h"
+#include "platform/sdl/presenter.h"
+#include "platform/sdl/sdl_clock.h"
+#include "platform/sdl/sdl_pointers.h"
+#include "ports/screen.h"
+
+namespace coilrun {
+
+/// The game's window: full screen over the desktop, or one among others.
+class SdlWindow : public Screen {
+ public:
+  SdlWindow(const SdlClock& clock, bool windowed, const std::filesystem::path& icon);
+
+  /// Why there is no window; empty when there is one.
+  const std::string& Problem() const { return problem_; }
+  /// The picture is drawn anew by the next flip.
+  void Damaged() { presenter_->Forget(); }
+  SDL_Window* Handle() const { return window_.get(); }
+
+  void Flip(ScreenPixels primary) override;
+  void Present(ScreenPixels primary) override;
+  void SetFullScreen(bool on) override;
+  void ToggleFullScreen() override;
+  void ShowPointer(bool visible) override;
+
+ private:
+  void SetIcon(const std::filesystem::path& file);
+  bool IsHidden() const;
+  void ApplyFullScreen();
+
+  const SdlClock& clock_;
+  bool windowed_;
+  std::string problem_;
+  SdlPointer<SDL_Window> window_;
+  std::unique_ptr<Presenter> presenter_;
+  FramePacer pacer_;
+  VsyncWatch vsync_;
+};
+
+}  // namespace coilrun

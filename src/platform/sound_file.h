@@ -1,0 +1,14 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <span>
+
+namespace coilrun {
+
+/// Length in seconds of a PCM wave file; nothing when it is none, broken or without samples.
+std::optional<double> WaveSeconds(std::span<const std::uint8_t> file);
+/// Length in seconds of an Ogg Vorbis file; nothing when it is none or broken.
+std::optional<double> VorbisSeconds(std::span<const std::uint8_t> file);
+
+}  // namespace coilrun
