@@ -1,1 +1,111 @@
-int main() { return 0; }
+#include <fstream>
+#include <iostream>
+#include <memory>
+#include <random>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "model/state.h"
+#include "platform/platform.h"
+#include "ports/ports.h"
+#include "ports/terminate.h"
+#include "script/script.h"
+#include "script/script_player.h"
+#include "shell/host_options.h"
+#include "shell/program.h"
+
+namespace coilrun {
+namespace {
+
+constexpr int kCriticalFailure = 1;
+constexpr int kWrongUse = 2;
+
+int Complain(const std::string& line, int exitCode) {
+  std::cerr << "coilrun: " << line << '\n';
+  return exitCode;
+}
+
+PlatformOptions OptionsFor(const HostOptions& options) {
+  PlatformOptions wanted;
+  wanted.data = options.data;
+  wanted.user = options.user;
+  wanted.windowed = options.windowed;
+  wanted.fps = options.fps;
+  wanted.report = [](const std::string& line) { std::cerr << "coilrun: " << line << '\n'; };
+  return wanted;
+}
+
+Ports With(const CommonPorts& common, KeySource& keys, MessageBox& box) {
+  return {common.clock,    common.screen, keys,         box,
+          common.audio,    common.music,  common.files, common.archive,
+          common.settings, common.text};
+}
+
+int RunProgram(State& state, const Ports& ports, const HostOptions& options) {
+  try {
+    Program program(state, ports, COILRUN_VERSION);
+    program.Run(options.commandLine);
+  } catch (const Terminate& leaving) {
+    return leaving.exitCode;
+  }
+  return 0;
+}
+
+int PlayInWindow(const HostOptions& options) {
+  const auto made = MakeSdlPlatform(OptionsFor(options));
+  if (!made.platform) return Complain(made.problem, kCriticalFailure);
+  const auto state = std::make_unique<State>();
+  state->clockSeed = options.seed;
+  return RunProgram(*state,
+                    With(made.platform->Common(), made.platform->Keys(), made.platform->Boxes()),
+                    options);
+}
+
+int PlayHeadless(const HostOptions& options) {
+  ScriptOrError loaded = options.script ? LoadScript(*options.script) : ScriptOrError{Script{}, {}};
+  if (!loaded.script) return Complain(loaded.error, kWrongUse);
+  std::ofstream traceFile;
+  if (options.trace) traceFile.open(*options.trace, std::ios::binary);
+  if (!traceFile) return Complain("cannot write the trace " + *options.trace, kWrongUse);
+  std::ostream& trace = options.trace ? traceFile : std::cout;
+
+  const auto made = MakeHeadlessPlatform(OptionsFor(options));
+  if (!made.platform) return Complain(made.problem, kCriticalFailure);
+  const auto state = std::make_unique<State>();
+  state->clockSeed = options.seed;
+  state->witness.enabled = true;
+  const CommonPorts& common = made.platform->Common();
+  ScriptPlayer player(*std::move(loaded.script), {*state, common.clock, common.music,
+                                                  made.platform->Pictures(), trace, std::cerr});
+  const int exitCode = RunProgram(*state, With(common, player, player), options);
+  trace.flush();
+  return trace ? exitCode : Complain("cannot write the trace", kWrongUse);
+}
+
+int Main(const std::vector<std::string>& arguments) {
+  const auto parsed = ParseHostOptions(arguments);
+  if (const auto* fault = std::get_if<std::string>(&parsed)) return Complain(*fault, kWrongUse);
+  const auto& options = std::get<HostOptions>(parsed);
+  if (options.help) {
+    std::cout << HelpText();
+    return 0;
+  }
+  if (options.version) {
+    std::cout << "coilrun " COILRUN_VERSION "\n";
+    return 0;
+  }
+  return options.headless ? PlayHeadless(options) : PlayInWindow(options);
+}
+
+}  // namespace
+}  // namespace coilrun
+
+int main(int argc, char** argv) {
+  try {
+    return coilrun::Main({argv + 1, argv + argc});
+  } catch (const std::exception& broken) {
+    std::cerr << "coilrun: broken: " << broken.what() << '\n';
+    return 1;
+  }
+}

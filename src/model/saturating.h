@@ -17,6 +17,10 @@ class Saturating {
       std::int64_t value)  // NOLINT(google-explicit-constructor): a number is a number
       : value_(static_cast<Stored>(std::clamp<std::int64_t>(value, kMin, kMax))) {}
 
+  template <typename Other>
+  constexpr Saturating(Saturating<Other> value)  // NOLINT(google-explicit-constructor): as above
+      : Saturating(std::int64_t{int{value}}) {}
+
   constexpr operator int() const { return value_; }  // NOLINT(google-explicit-constructor)
 
   constexpr Saturating& operator+=(std::int64_t delta) {

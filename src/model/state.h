@@ -77,6 +77,7 @@ struct MenuState {
   coilrun::MenuAction MenuAction = coilrun::MenuAction::kNone;
   Table<bool, 4> EntryLit;
   std::string StatusText;
+  bool statusHeld = false;  ///< a failure's text stays until the next key
   std::string CreditsText;
   Int32 CreditsPos;
   std::string CreditsTicker;

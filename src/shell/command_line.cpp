@@ -73,8 +73,8 @@ void CommandLine::SetStartLevel(std::string_view value) {
   if (value.empty()) return;
   mode.StartLevelPath = std::string{kProgramFolder} + "\\lvl\\" + mode.StartLevelName;
   if (files_.Exists(mode.StartLevelPath)) return;
-  box_.Show("SetCommand_LoadLevel: Level does not exist!", "Level " + mode.StartLevelName + " does not exist!",
-            BoxButtons::kOk);
+  box_.Show("SetCommand_LoadLevel: Level does not exist!",
+            "Level " + mode.StartLevelName + " does not exist!", BoxButtons::kOk);
   throw Terminate{1};
 }
 

@@ -11,7 +11,8 @@
 
 namespace coilrun {
 
-/// Cuts a command line into switches: each runs from its "/" to the blank before the next one. Text before the first
+/// Cuts a command line into switches: each runs from its "/" to the blank before the next one. Text
+/// before the first
 /// "/" is a switch of its own, which nothing matches.
 std::vector<std::string> SplitSwitches(std::string_view commandLine);
 
@@ -20,7 +21,8 @@ class CommandLine {
  public:
   CommandLine(State& state, const Files& files, MessageBox& box, SettingsStore& settings);
 
-  /// Carries out one switch; an unknown one does nothing. Throws `Terminate` when it names a level that does not exist.
+  /// Carries out one switch; an unknown one does nothing. Throws `Terminate` when it names a level
+  /// that does not exist.
   void SetCommand(std::string_view arg);
 
  private:

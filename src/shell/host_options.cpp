@@ -20,7 +20,7 @@ struct ValueOption {
 
 struct FlagOption {
   std::string_view name;
-  bool HostOptions::* flag;
+  bool HostOptions::*flag;
 };
 
 template <typename Number>
@@ -39,12 +39,17 @@ constexpr std::array<FlagOption, 4> kFlags = {{{"--windowed", &HostOptions::wind
                                                {"--version", &HostOptions::version}}};
 
 constexpr std::array<ValueOption, 6> kValues = {{
-    {"--data", [](HostOptions& options, const std::string& value) { return !(options.data = value)->empty(); }},
-    {"--user", [](HostOptions& options, const std::string& value) { return !(options.user = value)->empty(); }},
-    {"--script", [](HostOptions& options, const std::string& value) { return !(options.script = value)->empty(); }},
-    {"--trace", [](HostOptions& options, const std::string& value) { return !(options.trace = value)->empty(); }},
+    {"--data", [](HostOptions& options,
+                  const std::string& value) { return !(options.data = value)->empty(); }},
+    {"--user", [](HostOptions& options,
+                  const std::string& value) { return !(options.user = value)->empty(); }},
+    {"--script", [](HostOptions& options,
+                    const std::string& value) { return !(options.script = value)->empty(); }},
+    {"--trace", [](HostOptions& options,
+                   const std::string& value) { return !(options.trace = value)->empty(); }},
     {"--fps", TakeFps},
-    {"--seed", [](HostOptions& options, const std::string& value) { return ParseNumber(value, options.seed); }},
+    {"--seed", [](HostOptions& options,
+                  const std::string& value) { return ParseNumber(value, options.seed); }},
 }};
 
 template <typename Options>

@@ -6,7 +6,8 @@
 namespace coilrun {
 namespace {
 
-/// Characters of the scan codes 0 to 57 in Windows-1252; a blank is a key without a character (the space bar is apart).
+/// Characters of the scan codes 0 to 57 in Windows-1252; a blank is a key without a character (the
+/// space bar is apart).
 using KeyRow = std::string_view;
 
 constexpr KeyRow kUsBase = "  1234567890-=  qwertyuiop[]  asdfghjkl;'  \\zxcvbnm,./    ";

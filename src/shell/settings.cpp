@@ -13,7 +13,9 @@ constexpr std::string_view kOptions = "Options";
 constexpr std::string_view kHiScore = "HiScore";
 constexpr std::size_t kLongestName = 14;
 
-double DefaultScore(int place) { return 10000 - (place - 1) * 1000.0; }
+double DefaultScore(int place) {
+  return 10000 - (place - 1) * 1000.0;
+}
 
 class Reader {
  public:

@@ -22,7 +22,8 @@ void RestartPeriod(Timer& timer, std::int64_t now) {
 
 /// The timers in firing order.
 std::array<Timer*, kTimers> InOrder(Timers& timers) {
-  std::array<Timer*, kTimers> order{&timers.tmr1, &timers.keybrd, &timers.picChange, &timers.ScrollNext};
+  std::array<Timer*, kTimers> order{&timers.tmr1, &timers.keybrd, &timers.picChange,
+                                    &timers.ScrollNext};
   auto* next = order.begin() + 4;
   for (Timer& step : timers.iWait) *next++ = &step;
   *next = &timers.ResetSpeed;
@@ -35,7 +36,8 @@ class Firing {
 
   void Fire(Timer& timer) {
     timer.fired = timers_.now;
-    const bool periodic = &timer == &timers_.tmr1 || &timer == &timers_.keybrd || &timer == &timers_.picChange;
+    const bool periodic =
+        &timer == &timers_.tmr1 || &timer == &timers_.keybrd || &timer == &timers_.picChange;
     if (periodic) {
       RestartPeriod(timer, timers_.now);
     } else {

@@ -14,8 +14,9 @@ class TimerHandlers {
   virtual void OnSpeedReset() = 0;
 };
 
-/// Fires the timers that are due now, each at most once, in their fixed order. What a handler switches on waits for the next
-/// call. A periodic timer next fires one interval after it was due; whole intervals that were missed are dropped.
+/// Fires the timers that are due now, each at most once, in their fixed order. What a handler
+/// switches on waits for the next call. A periodic timer next fires one interval after it was due;
+/// whole intervals that were missed are dropped.
 void FireDueTimers(State& state, TimerHandlers& handlers);
 
 }  // namespace coilrun

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <string_view>
+
+#include "shell/shell.h"
+
+namespace coilrun {
+
+/// Loads the standard pictures and the model packs; unpacks them first while the program starts.
+void DD_CreateGraphicsFromFile(Shell& shell);
+/// Unpacks and loads the standard effects.
+void SnCreateSounds(Shell& shell);
+
+/// The application lost the focus: gives the screen back and pauses a game that is being played.
+void LoseFocus(Shell& shell);
+/// The application has the focus again: takes the screen back and loads every picture anew.
+void RegainFocus(Shell& shell);
+
+}  // namespace coilrun

@@ -1,0 +1,25 @@
+#pragma once
+
+namespace coilrun {
+
+/// Scan codes of the keys with a meaning of their own.
+enum Key : int {
+  kKeyEscape = 1,
+  kKeyFirstCharacter = 2,
+  kKeyBackspace = 14,
+  kKeyEnter = 28,
+  kKeyLeftShift = 42,
+  kKeyRightShift = 54,
+  kKeyLastCharacter = 57,
+  kKeyF1 = 59,
+  kKeyF2 = 60,
+  kKeyF3 = 61,
+  kKeyF4 = 62,
+  kKeyPause = 197,
+  kKeyUp = 200,
+  kKeyLeft = 203,
+  kKeyRight = 205,
+  kKeyDown = 208,
+};
+
+}  // namespace coilrun

@@ -1,0 +1,161 @@
+#include "shell/keys.h"
+
+#include <string>
+
+#include "shell/cheats.h"
+#include "shell/key_codes.h"
+#include "shell/leaving.h"
+#include "shell/main_menu.h"
+#include "shell/scan_to_char.h"
+
+namespace coilrun {
+namespace {
+
+constexpr std::size_t kLongestName = 14;
+constexpr int kNameLine = 8;
+
+bool OnOptionsPage(const State& state) {
+  return state.menus.OptionsPage == 1;
+}
+bool OnScorePage(const State& state) {
+  return state.menus.ScorePage == 1;
+}
+bool OnNameLine(const State& state) {
+  return OnOptionsPage(state) && state.menus.OptionsCursor == kNameLine;
+}
+
+void DropLast(std::string& text) {
+  if (!text.empty()) text.pop_back();
+}
+
+void MainPageKey(Shell& shell, int key) {
+  MenuState& menus = shell.state.menus;
+  if (key == kKeyUp) --menus.MainCursor;
+  if (key == kKeyDown) ++menus.MainCursor;
+  if (key == kKeyEnter) MenuSelect(shell);
+}
+
+void OptionsPageKey(MenuState& menus, int key) {
+  if (key == kKeyUp) --menus.OptionsCursor;
+  if (key == kKeyDown) ++menus.OptionsCursor;
+  if (key == kKeyEnter) menus.MenuAction = MenuAction::kCycle;
+  if (key == kKeyLeft) menus.MenuAction = MenuAction::kMinus;
+  if (key == kKeyRight) menus.MenuAction = MenuAction::kPlus;
+}
+
+void MenuKey(Shell& shell, int key) {
+  shell.state.menus.statusHeld = false;
+  if (OnOptionsPage(shell.state)) {
+    OptionsPageKey(shell.state.menus, key);
+  } else if (!OnScorePage(shell.state)) {
+    MainPageKey(shell, key);
+  }
+}
+
+void PlayKey(State& state, int key) {
+  SnakeRec& player = state.Snakes(kPlayer);
+  if (key == kKeyUp) player.NextDir = Dir::kForw;
+  if (key == kKeyDown) player.NextDir = Dir::kBack;
+  if (key == kKeyLeft) player.NextDir = Dir::kLeft;
+  if (key == kKeyRight) player.NextDir = Dir::kRight;
+  state.shell.WaitingForStart = false;
+}
+
+void DispatchKey(Shell& shell, int key) {
+  const ShellState& now = shell.state.shell;
+  if (now.IsPause || now.LevelIntroPending || now.ShowLevelScreen) return;
+  if (now.InMenu) {
+    MenuKey(shell, key);
+  } else {
+    PlayKey(shell.state, key);
+  }
+}
+
+void EditText(State& state, int key) {
+  std::string& name = state.Snakes(kPlayer).Name;
+  if (key == kKeyEnter) {
+    if (OnScorePage(state)) state.mode.CheatLine.clear();
+    if (OnNameLine(state)) name.clear();
+  }
+  if (key == kKeyBackspace) {
+    if (OnScorePage(state)) DropLast(state.mode.CheatLine);
+    if (OnNameLine(state)) DropLast(name);
+  }
+}
+
+void TypeKey(Shell& shell, int key) {
+  State& state = shell.state;
+  const bool inRange = key >= kKeyFirstCharacter && key <= kKeyLastCharacter;
+  if (!inRange || key == kKeyEnter || key == kKeyLeftShift || key == kKeyRightShift) return;
+  if (!state.menus.TypingActive) return;
+  const std::string typed = ScanToChar(key, state.keys.ShiftDown, state.mode.KeyboardLayout);
+  if (state.menus.InputTarget == InputTarget::kPlayerName) {
+    std::string& name = state.Snakes(kPlayer).Name;
+    name = (name + typed).substr(0, kLongestName);
+  }
+  if (state.menus.InputTarget == InputTarget::kCheat) TypeCheat(shell, typed);
+}
+
+void FunctionKey(ShellState& shell, int key) {
+  if (key == kKeyF1 && !shell.InMenu && !shell.IsPause && !shell.WaitingForKey) {
+    shell.ShowLevelScreen = !shell.ShowLevelScreen;
+  }
+  if (key == kKeyF2) shell.ShowNames = !shell.ShowNames;
+  if (key == kKeyF3) shell.ShowMatchStats = !shell.ShowMatchStats;
+  if (key == kKeyF4) shell.MatchStatsDetail = !shell.MatchStatsDetail;
+  if (key == kKeyPause && !shell.InMenu) shell.IsPause = !shell.IsPause;
+}
+
+/// Between the game and the menus.
+void LeaveOrResumeGame(ShellState& shell) {
+  if (shell.WaitingForKey) shell.WaitAborted = true;
+  shell.IsPause = false;
+  shell.ShowLevelScreen = false;
+  shell.InMenu = !shell.InMenu;
+}
+
+void EscapeKey(Shell& shell) {
+  State& state = shell.state;
+  if (!state.shell.DisplayReady) {
+    AbandonStartUp(shell);
+  } else if (OnScorePage(state)) {
+    state.menus.ScorePage = 0;
+    state.shell.InMenu = true;
+  } else if (OnOptionsPage(state)) {
+    state.menus.OptionsPage = 0;
+    shell.game.host.SaveSettings();
+  } else if (!state.shell.NoGameRunning) {
+    LeaveOrResumeGame(state.shell);
+  }
+}
+
+void FireKey(Shell& shell, int key) {
+  DispatchKey(shell, key);
+  EditText(shell.state, key);
+  shell.state.keys.LastKey = key;
+  shell.state.keys.KeyPressed = key;
+  TypeKey(shell, key);
+  FunctionKey(shell.state.shell, key);
+  if (key == kKeyEscape) EscapeKey(shell);
+}
+
+}  // namespace
+
+void HandleKeys(Shell& shell) {
+  KeyState& keys = shell.state.keys;
+  shell.ports.keys.ReadKeys(keys.Down);
+  keys.ShiftDown = keys.Down[kKeyLeftShift] != 0;
+  for (int key = 0; key < static_cast<int>(keys.Down.size()); ++key) {
+    const auto slot = static_cast<std::size_t>(key);
+    if (keys.Down[slot] == 0) {
+      keys.Armed[slot] = true;
+      continue;
+    }
+    if (shell.state.shell.DebugMode)
+      shell.renderer.Text().DrawSystemText(std::to_string(key), 1, 1);
+    if (keys.Armed[slot]) FireKey(shell, key);
+    keys.Armed[slot] = false;
+  }
+}
+
+}  // namespace coilrun
