@@ -1,0 +1,52 @@
+#pragma once
+
+#include <map>
+#include <optional>
+#include <string>
+#include <utility>
+
+#include "platform/rar/rar_entry.h"
+
+namespace coilrun {
+
+struct Rar5Keys {
+  Digest256 cipher{};
+  Digest256 sums{};
+  RarCheckValue check{};
+};
+
+struct Rar4Keys {
+  AesBlock cipher{};
+  AesBlock iv{};
+};
+
+/// Makes the keys that a password (UTF-8) gives and remembers them by salt: each costs tens of
+/// milliseconds on purpose, and archives use few salts. An archive that asks for an absurd amount
+/// of such work gets no key.
+class RarKeyRing {
+ public:
+  static constexpr int kMaxExponent = 20;
+
+  explicit RarKeyRing(std::string password) : password_(std::move(password)) {}
+
+  bool HasPassword() const { return !password_.empty(); }
+  /// Nothing for an exponent above `kMaxExponent` or when the archive's share of work is used up.
+  std::optional<Rar5Keys> Keys5(const RarSalt& salt, int exponent);
+  std::optional<Rar4Keys> Keys4(const std::optional<Rar4Salt>& salt);
+
+ private:
+  std::string password_;
+  std::map<std::pair<RarSalt, int>, Rar5Keys> keys5_;
+  std::map<std::optional<Rar4Salt>, Rar4Keys> keys4_;
+  std::int64_t rounds_ = 0;
+};
+
+Rar5Keys DeriveRar5Keys(const std::string& password, const RarSalt& salt, int exponent);
+Rar4Keys DeriveRar4Keys(const std::string& password, const std::optional<Rar4Salt>& salt);
+
+/// The first four bytes of the check value's SHA-256, which archives store behind it.
+std::array<std::uint8_t, 4> CheckValueSum(const RarCheckValue& check);
+/// What an archive with keyed checksums stores in place of a CRC.
+std::uint32_t TweakedCrc(std::uint32_t crc, const Rar5Keys& keys);
+
+}  // namespace coilrun

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "options.h"
+
+namespace coilrun {
+
+/// The commands print what they are asked for on standard output and what is wrong on standard
+/// error. All return the exit code: 0 when all is well, 1 when something is not.
+int CreateArchive(const PackOptions& options);
+int ListArchive(const PackOptions& options);
+int ExtractArchive(const PackOptions& options);
+int TestArchive(const PackOptions& options);
+
+}  // namespace coilrun
