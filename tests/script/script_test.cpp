@@ -1,0 +1,139 @@
+#include "script/script.h"
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+
+#include <gmock/gmock.h>
+
+namespace coilrun {
+namespace {
+
+using ::testing::HasSubstr;
+using ::testing::StartsWith;
+
+/// "MICROSECONDS verb code name=value" of every step, then of every answer.
+std::string Listing(const Script& script) {
+  static constexpr std::string_view kWords[] = {"down", "up",  "lost",  "gained", "state",
+                                                "shot", "set", "close", "end"};
+  std::string list;
+  for (const ScriptStep& step : script.steps) {
+    list +=
+        std::to_string(step.at) + ' ' + std::string(kWords[static_cast<std::size_t>(step.verb)]);
+    if (step.code != 0) list += ' ' + std::to_string(step.code);
+    if (!step.name.empty()) list += ' ' + step.name;
+    if (step.verb == Verb::kSet) list += '=' + step.value;
+    list += '\n';
+  }
+  for (const ScriptAnswer& answer : script.answers) {
+    list += std::to_string(answer.at) + (answer.yes ? " yes\n" : " no\n");
+  }
+  return list;
+}
+
+struct GoodCase {
+  std::string text;
+  std::string listing;
+};
+
+TEST(ParseScript, TakesEveryCommandApart) {
+  const GoodCase cases[] = {
+      {"", ""},
+      {"# nothing\n\n   \r\n\t# more\r\n", ""},
+      {"0 down 1\r\n5 up 255\r\n", "0 down 1\n5000 up 255\n"},
+      {"  7\tstate # now\n7 close\n7 end", "7000 state\n7000 close\n7000 end\n"},
+      {"1 focus lost\n2 focus  gained ", "1000 lost\n2000 gained\n"},
+      {"1 answer yes\n1 answer no\n", "1000 yes\n1000 no\n"},
+      {"3 shot a b.png   # kept\n", "3000 shot a b.png\n"},
+      {"1 tap 28\n31 state\n31 tap 28\n",
+       "1000 down 28\n31000 state\n31000 down 28\n31000 up 28\n61000 up 28\n"},
+      {"0 type a1 \n",
+       "0 down 30\n30000 up 30\n60000 down 2\n90000 up 2\n120000 down 57\n150000 up 57\n"},
+      {"0 type qpzm0l\n",
+       "0 down 16\n30000 up 16\n60000 down 25\n90000 up 25\n120000 down 44\n150000 up 44\n"
+       "180000 down 50\n210000 up 50\n240000 down 11\n270000 up 11\n300000 down 38\n330000 up "
+       "38\n"},
+      {"1 set GodMode true\n1 set  Snakes.1.Name  two words \n1 set StatusText\n1 set lvlName # x",
+       "1000 set GodMode=true\n1000 set Snakes.1.Name= two words \n1000 set StatusText=\n"
+       "1000 set lvlName=\n"},
+      {"\xEF\xBB\xBF"
+       "1 end",
+       "1000 end\n"},
+  };
+  for (const GoodCase& good : cases) {
+    const ScriptOrError parsed = ParseScript(good.text, "s");
+    ASSERT_TRUE(parsed.script) << good.text << parsed.error;
+    EXPECT_EQ(Listing(*parsed.script), good.listing) << good.text;
+  }
+}
+
+TEST(ParseScript, LastsUntilTheLastKeyOrAnswer) {
+  EXPECT_EQ(ParseScript("", "s").script->lastAt, 0);
+  EXPECT_EQ(ParseScript("5 state\n9 answer no\n", "s").script->lastAt, 9000);
+  EXPECT_EQ(ParseScript("5 tap 1\n", "s").script->lastAt, 35000);
+}
+
+TEST(ParseScript, SaysWhereAndWhatIsWrong) {
+  const GoodCase cases[] = {
+      {"5 state\n4 state\n", "play.txt:2: the time is before"},
+      {"\n\nstate\n", "play.txt:3: \"state\" is no time"},
+      {"-1 state", "play.txt:1: \"-1\" is no time"},
+      {"1.5 state", "play.txt:1: \"1.5\" is no time"},
+      {"99999999999999999999 end", "play.txt:1: \""},
+      {"1000000000001 end", "play.txt:1: \"1000000000001\" is no time"},
+      {"1", "play.txt:1: there is no command \"\""},
+      {"1 STATE", "play.txt:1: there is no command \"STATE\""},
+      {"1 jump\x1b[2J", "play.txt:1: there is no command \"jump?[2J\""},
+      {"1 down 0", "play.txt:1: a scan code"},
+      {"1 up 256", "play.txt:1: a scan code"},
+      {"1 tap", "play.txt:1: a scan code"},
+      {"1 tap 28 29", "play.txt:1: a scan code"},
+      {"1 down 0x1c", "play.txt:1: a scan code"},
+      {"1 type", "play.txt:1: a text to type"},
+      {"1 type God", "play.txt:1: only lower-case"},
+      {"1 type a\tb", "play.txt:1: only lower-case"},
+      {"1 answer maybe", "play.txt:1: an answer"},
+      {"1 focus", "play.txt:1: the focus"},
+      {"1 state now", "play.txt:1: nothing may follow"},
+      {"1 end 0", "play.txt:1: nothing may follow"},
+      {"1 shot # no file", "play.txt:1: the file"},
+      {"1 set", "play.txt:1: the name"},
+      {"1 type " + std::string(10'001, 'a'), "play.txt:1: the text to type is too long"},
+      {std::string(4 * 1024 * 1024 + 1, '\n'), "play.txt: the script is larger"},
+  };
+  for (const GoodCase& bad : cases) {
+    const ScriptOrError parsed = ParseScript(bad.text, "play.txt");
+    EXPECT_FALSE(parsed.script) << bad.text.substr(0, 40);
+    EXPECT_THAT(parsed.error, StartsWith(bad.listing));
+    EXPECT_EQ(parsed.error.find('\n'), std::string::npos);
+  }
+}
+
+TEST(ParseScript, BoundsTheNumberOfSteps) {
+  std::string text;
+  for (int i = 0; i < 26; ++i) text += "0 type " + std::string(10'000, 'a') + '\n';
+  EXPECT_THAT(ParseScript(text, "s").error, StartsWith("s:26: the script has more than"));
+}
+
+TEST(LoadScript, ReportsAFileThatCannotBeRead) {
+  for (const char* const file : {"/no/such/script", "/"}) {
+    const ScriptOrError loaded = LoadScript(file);
+    EXPECT_FALSE(loaded.script);
+    EXPECT_THAT(loaded.error, HasSubstr("cannot be read"));
+  }
+}
+
+TEST(LoadScript, TakesEveryFileOfTheFuzzCorpus) {
+  const std::filesystem::path corpus = COILRUN_SOURCE_DIR "/fuzz/corpus/script";
+  int read = 0;
+  for (const auto& entry : std::filesystem::directory_iterator(corpus)) {
+    const ScriptOrError loaded = LoadScript(entry.path().string());
+    EXPECT_EQ(loaded.script.has_value(), loaded.error.empty()) << entry.path();
+    ++read;
+  }
+  EXPECT_GE(read, 5);
+}
+
+}  // namespace
+}  // namespace coilrun
