@@ -1,0 +1,34 @@
+#pragma once
+
+#include <map>
+#include <optional>
+#include <string>
+#include <utility>
+
+#include "ports/settings_store.h"
+
+namespace coilrun {
+
+/// A settings store that lives in memory.
+class MemorySettings final : public SettingsStore {
+ public:
+  using Key = std::pair<std::string, std::string>;
+
+  std::optional<std::string> Get(std::string_view section, std::string_view key) const override {
+    const auto found = values.find(Key{section, key});
+    if (found == values.end()) return std::nullopt;
+    return found->second;
+  }
+  void Set(std::string_view section, std::string_view key, std::string_view value) override {
+    values[Key{section, key}] = value;
+  }
+  bool Save() override {
+    ++saves;
+    return true;
+  }
+
+  std::map<Key, std::string> values;
+  int saves = 0;
+};
+
+}  // namespace coilrun

@@ -1,0 +1,88 @@
+#include "shell/settings.h"
+
+#include <gtest/gtest.h>
+
+#include "shell/memory_settings.h"
+
+namespace coilrun {
+namespace {
+
+TEST(LoadSettings, AFreshStoreGivesTheDefaults) {
+  State state;
+  LoadSettings(state, MemorySettings{});
+  EXPECT_EQ(state.Snakes(1).Name, "Unknown");
+  EXPECT_EQ(state.Snakes(1).Model, 1);
+  EXPECT_EQ(state.Snakes(16).BaseInterval, 100);
+  EXPECT_EQ(state.settings.MusicVolume, 30);
+  EXPECT_TRUE(state.shell.ShowFPS);
+  EXPECT_EQ(state.HiScore(1).Score, 10000);
+  EXPECT_EQ(state.HiScore(10).Score, 1000);
+  EXPECT_EQ(state.HiScore(10).Name, "Unknown");
+}
+
+TEST(LoadSettings, ValuesThatCannotBeConvertedLeaveWhatTheyFill) {
+  MemorySettings store;
+  store.Set("Options", "MusicVolume", "loud");
+  store.Set("Options", "SndEnabled", "maybe");
+  store.Set("Options", "Player Color", "99999");
+  store.Set("Options", "gSpeed", "123456");
+  store.Set("Tweak", "Speed", "2,5");
+  store.Set("HiScore", "2Name", "a name of twenty ch.");
+  State state;
+  state.settings.MusicVolume = 77;
+  state.settings.SndEnabled = false;
+  state.Snakes(1).Model = 4;
+  state.Snakes(3).BaseInterval = 88;
+
+  LoadSettings(state, store);
+
+  EXPECT_EQ(state.settings.MusicVolume, 77);
+  EXPECT_FALSE(state.settings.SndEnabled);
+  EXPECT_EQ(state.Snakes(1).Model, 4);
+  EXPECT_EQ(state.Snakes(3).BaseInterval, 88);
+  EXPECT_EQ(state.settings.SpeedRate, 2.5) << "a comma is a decimal point";
+  EXPECT_EQ(state.HiScore(2).Name, "a name of twen");
+}
+
+TEST(LoadSettings, TheMultiplayerModesFixTheSpeedTweaks) {
+  MemorySettings store;
+  store.Set("Tweak", "Speed", "3");
+  State state;
+  state.mode.GameMode = GameMode::kDeathmatch;
+  LoadSettings(state, store);
+  EXPECT_EQ(state.settings.SpeedRate, 0.5);
+  EXPECT_TRUE(state.settings.NoSpeedReset);
+
+  SaveSettings(state, store);
+  EXPECT_EQ(store.Get("Tweak", "Speed"), "3") << "the stored tweaks are left alone";
+}
+
+TEST(SaveSettings, WhatIsSavedIsFoundAgain) {
+  MemorySettings store;
+  State saved;
+  LoadSettings(saved, store);
+  saved.settings.MinSpeed = 120;
+  saved.settings.SpeedRate = 1.5;
+  saved.settings.IncSpeed = true;
+  saved.settings.AnimatedItems = false;
+  saved.settings.GlobalSpeed = 90;
+  saved.shell.ShowFPS = false;
+  saved.Snakes(1).Name = "J\xFCrgen";
+  saved.HiScore(3) = {"Ada", 8123};
+  ASSERT_TRUE(SaveSettings(saved, store));
+
+  State found;
+  LoadSettings(found, store);
+  EXPECT_EQ(found.settings.MinSpeed, 120);
+  EXPECT_EQ(found.settings.SpeedRate, 1.5);
+  EXPECT_TRUE(found.settings.IncSpeed);
+  EXPECT_FALSE(found.settings.AnimatedItems);
+  EXPECT_EQ(found.Snakes(7).BaseInterval, 90);
+  EXPECT_FALSE(found.shell.ShowFPS);
+  EXPECT_EQ(found.Snakes(1).Name, "J\xFCrgen");
+  EXPECT_EQ(found.HiScore(3).Name, "Ada");
+  EXPECT_EQ(found.HiScore(3).Score, 8123);
+}
+
+}  // namespace
+}  // namespace coilrun
