@@ -1,9 +1,10 @@
 #include "platform/file_handle.h"
 
-#include <algorithm>
 #include <cerrno>
+#include <utility>
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace coilrun {
@@ -18,6 +19,9 @@ FileHandle::FileHandle(const std::filesystem::path& file, int flags)
     : descriptor_(open(file.c_str(), flags | O_CLOEXEC, kPermissions)) {}
 
 bool FileHandle::ReadAll(Bytes& contents, std::size_t limit) const {
+  struct stat status {};
+  if (fstat(descriptor_, &status) != 0 || std::cmp_greater(status.st_size, limit)) return false;
+  contents.reserve(static_cast<std::size_t>(status.st_size) + kChunk);
   std::size_t size = 0;
   while (true) {
     contents.resize(size + kChunk);

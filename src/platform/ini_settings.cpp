@@ -28,10 +28,9 @@ IniFile ReadIni(const fs::path& file) {
   const FileHandle handle(file, O_RDONLY | O_NONBLOCK);
   if (!handle.IsOpen() && (errno == ENOENT || errno == ENOTDIR)) return {};
   std::error_code error;
-  if (!handle.IsOpen() || !fs::is_regular_file(file, error)) return {"", "it cannot be read"};
-  if (fs::file_size(file, error) > kSizeLimit) return {"", "it is larger than 1 MiB"};
   Bytes bytes;
-  if (!handle.ReadAll(bytes, kSizeLimit)) return {"", "it cannot be read"};
+  if (!handle.IsOpen() || !fs::is_regular_file(file, error) || !handle.ReadAll(bytes, kSizeLimit))
+    return {"", "it cannot be read, or is larger than 1 MiB"};
   IniFile ini{std::string(bytes.begin(), bytes.end()), std::nullopt};
   ini.damage = FindIniDamage(ini.text);
   return ini;

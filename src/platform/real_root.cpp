@@ -146,6 +146,7 @@ bool RealRoot::Write(const GamePath& path, std::span<const std::uint8_t> content
   const auto folder = MakeFolders(GamePath(path.begin(), path.end() - 1));
   if (!folder) return false;
   const fs::path place = FindIn(*folder, path.back()).value_or(*folder / ToUtf8(path.back()));
+  if (IsThere(place) && !(Holds(place) && IsFile(place))) return false;
   // A new file in place of the old one: never a write through a link to a file elsewhere.
   unlink(place.c_str());
   FileHandle file(place, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW);

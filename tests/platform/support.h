@@ -1,0 +1,79 @@
+#pragma once
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+#include <string_view>
+
+#include <unistd.h>
+
+#include "platform/folders.h"
+#include "ports/bytes.h"
+
+namespace coilrun {
+
+inline void Put(const std::filesystem::path& file, std::string_view contents = "x") {
+  std::filesystem::create_directories(file.parent_path());
+  std::ofstream(file, std::ios::binary) << contents;
+}
+
+/// The contents of a file; "(none)" when there is no such file.
+inline std::string Contents(const std::filesystem::path& file) {
+  std::ifstream stream(file, std::ios::binary);
+  if (!stream) return "(none)";
+  return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+inline Bytes ToBytes(std::string_view text) {
+  return {text.begin(), text.end()};
+}
+
+/// Makes a folder, and those in it, one that this process cannot write to, while the object lives.
+/// As root, whom no permission stops, the process becomes nobody meanwhile.
+class ReadOnlyFolder {
+ public:
+  explicit ReadOnlyFolder(std::filesystem::path folder) : folder_(std::move(folder)) {
+    SetPermissions(std::filesystem::perms(0555));
+    becameNobody_ = geteuid() == 0 && seteuid(kNobody) == 0;
+  }
+  ~ReadOnlyFolder() {
+    if (becameNobody_ && seteuid(0) != 0) _exit(1);
+    SetPermissions(std::filesystem::perms(0755));
+  }
+  ReadOnlyFolder(const ReadOnlyFolder&) = delete;
+  ReadOnlyFolder& operator=(const ReadOnlyFolder&) = delete;
+
+ private:
+  static constexpr uid_t kNobody = 65534;
+
+  void SetPermissions(std::filesystem::perms permissions) const {
+    std::filesystem::permissions(folder_, permissions);
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(folder_))
+      if (entry.is_directory()) std::filesystem::permissions(entry, permissions);
+  }
+
+  std::filesystem::path folder_;
+  bool becameNobody_ = false;
+};
+
+/// A folder of the test's own, with room for both roots and a place outside of them.
+class TestFolders {
+ public:
+  TestFolders() {
+    for (const char* const name : {"program", "user", "outside"})
+      std::filesystem::create_directories(Path() / name);
+    for (const auto& folder : {Path(), Path() / "user"})
+      std::filesystem::permissions(folder, std::filesystem::perms(0777));
+  }
+
+  const std::filesystem::path& Path() const { return temporary_.Path(); }
+  std::filesystem::path Program() const { return Path() / "program"; }
+  std::filesystem::path User() const { return Path() / "user"; }
+  std::filesystem::path Outside() const { return Path() / "outside"; }
+
+ private:
+  TemporaryFolder temporary_;
+};
+
+}  // namespace coilrun
