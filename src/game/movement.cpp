@@ -47,14 +47,16 @@ void UpdateNeck(SnakeRec& body) {
   body.Seg(0) = {neck.x, neck.y, Joined(body.Seg(0).Dir, body.Dir)};
 }
 
-/// Carries every cell, and with it the corner that it shows, one place down the body.
+/// Carries every cell, and with it the corner that it shows, one place down the body. A cell that
+/// shows a corner already takes no second one: two turns in a row leave the second cell plain.
 void Shift(SnakeRec& body) {
-  for (int i = std::min<int>(body.Length, kLastSeg); i >= 1; --i) {
-    SegRec& ahead = body.Seg(i - 1);
+  const int last = std::min<int>(body.Length, kLastSeg);
+  for (int i = last; i >= 1; --i) {
+    const SegRec& ahead = body.Seg(i - 1);
     SegRec& cell = body.Seg(i);
-    ahead.Dir = Straightened(ahead.Dir);
-    cell = {ahead.X, ahead.Y, Joined(cell.Dir, ahead.Dir)};
+    cell = {ahead.X, ahead.Y, Joined(cell.Dir, Straightened(ahead.Dir))};
   }
+  if (last >= 1) body.Seg(0).Dir = Straightened(body.Seg(0).Dir);
 }
 
 }  // namespace

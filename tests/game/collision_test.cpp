@@ -1,0 +1,158 @@
+#include "game/collision.h"
+
+#include "field.h"
+
+namespace coilrun {
+namespace {
+
+constexpr auto kOpen = [](Field& field) { field.state.level.hasOpenWalls = true; };
+constexpr auto kImmortal = [](Field& field) {
+  field.Player().Immortal = true;
+  field.Player().ImmortalSecs = 9;
+};
+constexpr auto kClosed = [](Field&) {};
+constexpr auto kNoClip = [](Field& field) { field.state.mode.NoClip = true; };
+constexpr auto kGod = [](Field& field) {
+  field.state.mode.GodMode = true;
+  field.state.level.hasOpenWalls = true;
+};
+
+TEST(ColChk, EdgesWrapKillOrLetPass) {
+  struct Row {
+    std::function<void(Field&)> set;
+    Point head, after;
+    int deaths;
+  };
+  const Point start{100, 100};
+  for (const auto& [set, head, after, deaths] :
+       std::vector<Row>{{kOpen, {0, 200}, {600, 200}, 0},
+                        {kOpen, {1, 200}, {1, 200}, 0},
+                        {kOpen, {615, 200}, {15, 200}, 0},
+                        {kOpen, {614, 200}, {614, 200}, 0},
+                        {kOpen, {200, 0}, {200, 440}, 0},
+                        {kOpen, {200, 455}, {200, 15}, 0},
+                        {kOpen, {-40, 700}, {600, 15}, 0},
+                        {kImmortal, {0, 200}, {600, 200}, 0},
+                        {kClosed, {0, 200}, start, 1},
+                        {kClosed, {1, 1}, {1, 1}, 0},
+                        {kClosed, {615, 200}, start, 1},
+                        {kClosed, {614, 454}, {614, 454}, 0},
+                        {kClosed, {200, 0}, start, 1},
+                        {kClosed, {200, 455}, start, 1},
+                        {kNoClip, {-40, 200}, {-40, 200}, 0},
+                        {kGod, {-40, 200}, {-40, 200}, 0}}) {
+    Field field;
+    field.Put(1, head);
+    set(field);
+    ColChk(field.game);
+    EXPECT_EQ(field.Player().Head(), after) << head.x << "," << head.y;
+    EXPECT_EQ(field.Player().Deaths, deaths) << head.x << "," << head.y;
+  }
+}
+
+TEST(ColChk, BodiesKillByOverlapFromTheSecondCellOn) {
+  struct Row {
+    Point first, second;
+    Dir dir;
+    bool dies;
+  };
+  const Point far{400, 400};
+  for (const auto& [first, second, dir, dies] :
+       std::vector<Row>{{far, {219, 200}, Dir::kRight, true},
+                        {far, {220, 200}, Dir::kRight, false},
+                        {far, {181, 219}, Dir::kRight, true},
+                        {far, {180, 200}, Dir::kRight, false},
+                        {far, {200, 180}, Dir::kRight, false},
+                        {far, {200, 220}, Dir::kRight, false},
+                        {{200, 200}, far, Dir::kRight, false},
+                        {far, {200, 200}, Dir::kNone, false}}) {
+    for (const int owner : {1, 2}) {
+      Field field;
+      field.Put(2, far, Dir::kNone);
+      field.Put(1, {200, 200}, dir);
+      field.Body(owner, {first, second});
+      ColChk(field.game);
+      EXPECT_EQ(field.Player().Deaths, dies ? 1 : 0) << second.x << "," << second.y;
+    }
+  }
+}
+
+TEST(ColChk, ImmortalsAndGodsRunThroughBodies) {
+  for (const auto& set : std::vector<std::function<void(Field&)>>{kImmortal, kGod}) {
+    Field field;
+    field.Put(1, {200, 200});
+    field.Body(1, {{200, 200}, {200, 200}});
+    set(field);
+    ColChk(field.game);
+    EXPECT_EQ(field.Player().Deaths, 0);
+  }
+}
+
+TEST(ColChk, AKillCountsTheVictimsLengthAfterItsRespawn) {
+  struct Row {
+    GameMode mode;
+    bool hunting;
+    int frags, score, grow;
+  };
+  for (const auto& [mode, hunting, frags, score, grow] :
+       std::vector<Row>{{GameMode::kSingle, false, 0, 0, 0},
+                        {GameMode::kDeathmatch, false, 1, 3, 0},
+                        {GameMode::kNetDeathmatch, true, 1, 3, 3}}) {
+    Field field;
+    field.state.mode.GameMode = mode;
+    field.state.mode.HuntingMode = hunting;
+    field.state.mode.MatchLimit = 50;
+    field.Put(1, {400, 400});
+    field.Body(1, {{380, 400}, {200, 200}});
+    field.Put(2, {200, 200}).Length = 40;
+    ColChk(field.game);
+    EXPECT_EQ(field.Snake(2).Deaths, 1);
+    EXPECT_EQ(field.Snake(2).Length, 1);
+    EXPECT_EQ(field.Player().Frags, frags);
+    EXPECT_EQ(field.Player().Score, score);
+    EXPECT_EQ(field.Player().Grow, grow);
+  }
+}
+
+TEST(ColChk, BitingOneselfCostsAFragInAMatch) {
+  Field field;
+  field.state.mode.GameMode = GameMode::kDeathmatch;
+  field.state.mode.MatchLimit = 50;
+  field.Put(1, {200, 200});
+  field.Body(1, {{180, 200}, {200, 200}});
+  ColChk(field.game);
+  EXPECT_EQ(field.Player().Frags, -1);
+}
+
+TEST(ColChk, GoesOnAfterADeathWithTheStateThatItFinds) {
+  Field field;
+  field.Put(1, {-5, 200});
+  field.Put(2, {100, 700});
+  field.Item(ItemKind::kYellow, {100, 100});
+  ColChk(field.game);
+  EXPECT_EQ(field.Player().YellowEaten, 1) << "eaten on the start cell, after the death";
+  EXPECT_EQ(field.Snake(2).Deaths, 1);
+}
+
+TEST(ColChk, ALevelWithoutRequirementsCompletesOncePerSnake) {
+  Field field;
+  field.state.level.reqYellow = 0;
+  field.state.level.nextLvl = ".\\lvl\\lvl2.dat";
+  field.Put(2, {300, 300});
+  ColChk(field.game);
+  EXPECT_THAT(field.host.calls,
+              testing::ElementsAre("level .\\lvl\\lvl2.dat", "level .\\lvl\\lvl2.dat"));
+}
+
+TEST(ColChk, StaysInsideItsTablesWhateverTheCountsSay) {
+  Field field;
+  field.state.mode.NumSnakes = 32767;
+  for (SnakeRec& snake : field.state.Snakes) snake.Length = 32767;
+  for (ItemList& items : field.state.itemLists) items.count = 32767;
+  EXPECT_NO_THROW(ColChk(field.game));
+  field.state.mode.NumSnakes = -3;
+  EXPECT_NO_THROW(ColChk(field.game));
+}
+
+}  // namespace
+}  // namespace coilrun

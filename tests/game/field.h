@@ -1,0 +1,134 @@
+#pragma once
+
+#include <functional>
+#include <initializer_list>
+#include <string>
+#include <vector>
+
+#include <gmock/gmock.h>
+
+#include "game/game.h"
+
+namespace coilrun {
+
+inline void PrintTo(Dir dir, std::ostream* out) {
+  *out << '"' << Word(dir) << '"';
+}
+
+/// Writes down what the rules ask for, and presses Enter in every wait.
+class RecordingHost : public GameHost {
+ public:
+  explicit RecordingHost(State& state) : state_(state) {}
+
+  void PlayEffect(std::string_view path, int snake) override {
+    calls.push_back(std::string{path} + " " + std::to_string(snake));
+  }
+  void DrawFrame() override {
+    for (const CenterLine& line : state_.CenterLines) {
+      if (!line.Text.empty()) screen[line.Y] = line.Text;
+    }
+    overlays.push_back(state_.overlay);
+  }
+  void Yield() override {
+    ++yields;
+    if (state_.shell.WaitingForKey) state_.keys.LastKey = 28;
+    if (onYield) onYield();
+  }
+  void LoadLevel(const std::string& path) override {
+    calls.push_back("level " + path);
+    state_.shell.Running = true;
+  }
+  void RunMenus() override { calls.emplace_back("menus"); }
+  void LoadSettings() override {
+    calls.emplace_back("load");
+    for (SnakeRec& snake : state_.Snakes) snake.BaseInterval = storedInterval;
+  }
+  void SaveSettings() override { calls.emplace_back("save"); }
+
+  std::vector<std::string> calls;
+  std::map<int, std::string> screen;  ///< what waits have shown last, by Y
+  std::vector<WaitOverlay> overlays;
+  std::function<void()> onYield;
+  int yields = 0;
+  int storedInterval = 100;
+
+ private:
+  State& state_;
+};
+
+/// A level made in code: the player at (100, 100), and no way to complete it.
+struct Field {
+  Field() {
+    state.level.reqYellow = 1000;
+    state.settings.MaxSpeed = 30;
+    state.settings.MinSpeed = 150;
+    for (int s = 1; s <= kMaxSnakes; ++s) {
+      SnakeRec& snake = state.Snakes(s);
+      snake.Name = s == kPlayer ? "Ann" : "Bot" + std::to_string(s);
+      snake.StartX = 100 + 30 * (s - 1);
+      snake.StartY = 100;
+      PutOnStart(snake);
+      snake.BaseInterval = 100;
+      snake.Interval = 100;
+      snake.Lives = 3;
+      state.timers.SetInterval(StepTimer(state, s), 100);
+    }
+  }
+
+  SnakeRec& Snake(int number) { return state.Snakes(number); }
+  SnakeRec& Player() { return Snake(kPlayer); }
+
+  SnakeRec& Put(int number, Point head, Dir dir = Dir::kRight) {
+    state.mode.NumSnakes = std::max<int>(state.mode.NumSnakes, number);
+    SnakeRec& snake = Snake(number);
+    snake.X = head.x;
+    snake.Y = head.y;
+    snake.Dir = dir;
+    snake.NextDir = dir;
+    return snake;
+  }
+  /// The cells of a body from `Seg(1)` on.
+  void Body(int number, std::initializer_list<Point> cells) {
+    SnakeRec& snake = Snake(number);
+    snake.Length = static_cast<int>(cells.size());
+    int i = 0;
+    for (const Point cell : cells) snake.Seg(++i) = {cell.x, cell.y, Dir::kRight};
+  }
+  ItemRec& Item(ItemKind kind, Point at) {
+    ItemList& items = state.Items(kind);
+    ++items.count;
+    return items(items.count) = {at.x, at.y, true, -1, false};
+  }
+  void Walls(std::initializer_list<Point> places) {
+    for (const Point at : places) {
+      ++state.numWalls;
+      state.Walls(state.numWalls) = {at.x, at.y, true, WallKind::kS};
+    }
+  }
+  UserItemRec& UserWall(Point at, std::string type, bool present = true) {
+    state.level.UserItemsUsed = true;
+    ++state.numUserItems;
+    return state.UserItems(state.numUserItems) = {at.x, at.y, present, "bricks", std::move(type)};
+  }
+  int StandingWalls() const {
+    return static_cast<int>(std::count_if(state.Walls.begin(), state.Walls.end(),
+                                          [](const WallRec& wall) { return wall.Present; }));
+  }
+  /// Finds a generator that draws what `wanted` asks of it.
+  void Draws(const std::function<bool(Rnd)>& wanted) {
+    for (std::uint64_t seed = 0; !wanted(state.Rnd); ++seed) state.Rnd.Reseed(seed);
+  }
+  std::vector<std::string> Feed() const {
+    std::vector<std::string> lines;
+    for (const std::string& line : state.feed.MsgLines) {
+      if (!line.empty()) lines.push_back(line);
+    }
+    return lines;
+  }
+
+  State state;
+  RecordingHost host{state};
+  Game game{state, host};
+};
+
+}  // namespace coilrun
