@@ -1,29 +1,42 @@
-// A yard of round cobbles, cool and grey.
+// A yard of round river cobbles, cool and grey, bedded in sand.
 #version 3.7;
 #include "field.inc"
 
-#declare Pebble = pigment { crackle form <-1, 1, 0> scale 27 color_map { [0 rgb 0] [1 rgb 1] } }
-#declare Cell = function { pattern { crackle form <-1, 1, 0> scale 27 } }
-#declare Tone = function { pattern { crackle solid scale 27 } }
-#declare Grain = function { pattern { granite scale 20 } }
+#declare R = seed(61);
+#declare Step = 25;
 
-// Height rises steeply from the joints and levels off to a low dome.
-#declare Dome = function(D) { min(1, max(0, D - 0.03) / 0.34) }
-#declare Relief = function { pow(1 - pow(1 - Dome(Cell(x, y, 0)), 2), 0.5) }
+#macro Cobble(At)
+  #local Tone = 0.86 + 0.30 * rand(R);
+  #local Warm = rand(R) - 0.5;
+  #local Base = <0.178 + 0.030 * Warm, 0.184, 0.196 - 0.030 * Warm> * Tone;
+  superellipsoid {
+    <0.80, 0.80>
+    scale <Step * (0.49 + 0.08 * rand(R)), Step * (0.42 + 0.07 * rand(R)), 6.5>
+    rotate z * (30 * rand(R) - 15 + 90 * floor(2 * rand(R)))
+    texture {
+      pigment {
+        granite scale 18
+        color_map { [0.15 rgb Base * 0.82] [0.5 rgb Base] [0.85 rgb Base * 1.2] }
+        translate 300 * <rand(R), rand(R), rand(R)>
+      }
+      normal { granite 0.18 scale 9 translate 300 * rand(R) }
+      finish { ambient 0.12 diffuse 0.95 }
+    }
+    translate At
+  }
+#end
+
+#for (J, -1, 23)
+  #for (I, -1, 27)
+    Cobble(<(I + 0.5 * mod(J + 2, 2)) * Step + 3 * (rand(R) - 0.5), J * Step * 0.87 + 3 * (rand(R) - 0.5), 1.5 * rand(R)>)
+  #end
+#end
 
 plane {
-  z, 0
+  z, 0.8
   texture {
-    pigment {
-      function { min(1, max(0, Cell(x, y, 0) - 0.02) / 0.10) * (0.55 + 0.35 * Tone(x, y, 0) + 0.22 * (Grain(x, y, 0) - 0.5)) }
-      color_map {
-        [0.00 rgb <0.040, 0.040, 0.036>]
-        [0.40 rgb <0.122, 0.132, 0.150>]
-        [0.75 rgb <0.170, 0.176, 0.188>]
-        [1.00 rgb <0.220, 0.220, 0.222>]
-      }
-    }
-    normal { function { 6.0 * Relief(x, y, 0) + 0.8 * Grain(x, y, 0) } -0.55 accuracy 0.02 }
-    finish { ambient 0.12 diffuse 0.92 }
+    pigment { granite scale 3 color_map { [0.2 rgb <0.060, 0.058, 0.050>] [0.8 rgb <0.105, 0.100, 0.085>] } }
+    normal { bumps 0.6 scale 1.5 }
+    finish { ambient 0.1 diffuse 0.8 }
   }
 }

@@ -7,11 +7,11 @@
 #macro Stone(X0, Y0, X1, Y1)
   #local Tone = 0.92 + 0.22 * (rand(R) - 0.5);
   #local Warm = rand(R) - 0.5;
-  #local Base = <0.139 + 0.020 * Warm, 0.140, 0.118 - 0.016 * Warm> * Tone;
+  #local Base = <0.190 + 0.026 * Warm, 0.190, 0.158 - 0.020 * Warm> * Tone;
   #local Tilt = <rand(R) - 0.5, rand(R) - 0.5, 0> * 0.5;
   #local Mid = <(X0 + X1) / 2, (Y0 + Y1) / 2, 0>;
   object {
-    Round_Box_Union(<X0 + 1.1, Y0 + 1.1, -8>, <X1 - 1.1, Y1 - 1.1, 3 + rand(R)>, 2.6)
+    Round_Box_Union(<X0 + 0.8, Y0 + 0.8, -8>, <X1 - 0.8, Y1 - 0.8, 3 + rand(R)>, 2.6)
     texture {
       pigment {
         granite scale 46 turbulence 0.3
@@ -57,14 +57,14 @@
 Pave(-30, -25, 672, 506)
 
 plane {
-  z, 0
+  z, 0.9
   texture {
     pigment {
       function { Cloud(x, y, z) }
       color_map {
-        [0.40 rgb <0.030, 0.028, 0.020>]
-        [0.55 rgb <0.045, 0.062, 0.018>]
-        [0.75 rgb <0.070, 0.105, 0.022>]
+        [0.35 rgb <0.050, 0.046, 0.034>]
+        [0.50 rgb <0.060, 0.085, 0.022>]
+        [0.70 rgb <0.095, 0.150, 0.030>]
       }
     }
     normal { bumps 0.8 scale 2 }

@@ -8,7 +8,7 @@
   texture {
     pigment {
       granite scale (Along ? <260, 5, 40> : <5, 260, 40>) translate 700 * rand(R)
-      color_map { [0.2 rgb <0.150, 0.162, 0.178> * Tone] [0.8 rgb <0.212, 0.226, 0.242> * Tone] }
+      color_map { [0.2 rgb <0.170, 0.186, 0.206> * Tone] [0.8 rgb <0.240, 0.258, 0.280> * Tone] }
     }
     normal { granite 0.06 scale (Along ? <200, 4, 40> : <4, 200, 40>) translate 300 * rand(R) }
     finish { ambient 0.14 diffuse 0.86 specular 0.12 roughness 0.15 }

@@ -9,17 +9,19 @@
   texture {
     pigment {
       bozo turbulence 0.6 scale 30 translate 900 * rand(R)
-      color_map { [0.2 rgb <0.066, 0.086, 0.210> * Tone] [0.8 rgb <0.100, 0.125, 0.280> * Tone] }
+      color_map { [0.2 rgb <0.052, 0.080, 0.255> * Tone] [0.8 rgb <0.082, 0.118, 0.335> * Tone] }
     }
     normal { bumps 0.12 scale 14 translate 90 * rand(R) }
     finish { ambient 0.14 diffuse 0.88 specular 0.10 roughness 0.06 }
   }
 #end
 
-// An eight-pointed star: two squares.
+// An inlaid star of eight points, four long and four short.
 #declare Star = union {
-  box { <-1, -1, -1>, <1, 1, 1> }
-  box { <-1, -1, -1>, <1, 1, 1> rotate z * 45 }
+  #for (I, 0, 7)
+    #local Reach = (mod(I, 2) ? 0.52 : 1);
+    triangle { <0, Reach, 0>, <0.17, 0, 0>, <-0.17, 0, 0> rotate z * 45 * I }
+  #end
 }
 
 #macro Tile(X, Y)
@@ -28,8 +30,8 @@
     object { Round_Box_Union(<0.7, 0.7, -4>, <Side - 0.7, Side - 0.7, 2.2>, 1.7) Glaze(Tone, 0) }
     #if (mod(X + 2 * Y + 60, 5) = 0)
       object {
-        Star scale <4.6, 4.6, 0.25> translate <Side / 2, Side / 2, 2.2>
-        pigment { rgb <0.21, 0.20, 0.28> }
+        Star scale 11 translate <Side / 2, Side / 2, 2.4>
+        pigment { rgb <0.19, 0.24, 0.50> }
         finish { ambient 0.15 diffuse 0.9 }
       }
     #end

@@ -12,9 +12,9 @@ plane {
   texture {
     pigment {
       function { 0.42 * Cloud(x, y, 0) + 0.16 * Ripple(x, y, 0) * Swell(x, y, 0) + 0.42 * Grain(x, y, 0) }
-      color_map { [0.2 rgb <0.40, 0.29, 0.155>] [0.5 rgb <0.49, 0.37, 0.21>] [0.8 rgb <0.58, 0.45, 0.27>] }
+      color_map { [0.2 rgb <0.58, 0.42, 0.225>] [0.5 rgb <0.70, 0.52, 0.30>] [0.8 rgb <0.81, 0.62, 0.38>] }
     }
-    normal { function { 2.6 * Ripple(x, y, 0) * (0.25 + Swell(x, y, 0)) + 0.5 * Grain(x, y, 0) } -0.55 accuracy 0.02 }
+    normal { function { 4.2 * Ripple(x, y, 0) * (0.25 + Swell(x, y, 0)) + 0.5 * Grain(x, y, 0) } -0.55 accuracy 0.02 }
     finish { ambient 0.10 diffuse 0.95 }
   }
 }
