@@ -8,14 +8,12 @@ import os
 import numpy as np
 from PIL import Image, ImageDraw, ImageFont
 
+from lib.letters import COMIC, DEJAVU, LIBERATION, SPARTAN, grown
+
 HERE = os.path.dirname(os.path.abspath(__file__))
 ROOT = os.path.dirname(os.path.dirname(HERE))
 TARGET = os.path.join(ROOT, "assets", "gfx", "fonts")
 ROWS = ("ABCDEFGHIJKLMNOPQRSTUVWXYZ", "abcdefghijklmnopqrstuvwxyz", "0123456789\0.:-+*/()=\\_!?")
-LIBERATION = "/usr/share/fonts/truetype/liberation2/Liberation"
-DEJAVU = "/usr/share/fonts/truetype/dejavu/DejaVuSans"
-COMIC = "/usr/share/fonts/opentype/comic-neue/ComicNeue-Bold.otf"
-SPARTAN = "/usr/share/fonts/opentype/league-spartan/LeagueSpartan-Black.otf"
 RIM = (24, 24, 24)
 SCALE = 16
 
@@ -122,24 +120,6 @@ def large_glyph(char, font, box, base, centre, widest, stops, weight, rim_radius
     out = np.rint(255 * np.clip(mixed, 0, 1) ** (1 / 2.2)).astype(np.uint8)
     out[~mask] = 0
     return out
-
-
-def grown(mask, radius):
-    """The mask grown by a disc: threshold of a two-pass squared distance."""
-    h, w = mask.shape
-    far = 10 ** 6
-    column = np.where(mask, 0, far).astype(np.int64)
-    for y in range(1, h):
-        column[y] = np.minimum(column[y], column[y - 1] + 1)
-    for y in range(h - 2, -1, -1):
-        column[y] = np.minimum(column[y], column[y + 1] + 1)
-    column = np.minimum(column, far) ** 2
-    reach = int(radius) + 1
-    best = column.copy()
-    for dx in range(1, reach + 1):
-        best[:, dx:] = np.minimum(best[:, dx:], column[:, :-dx] + dx * dx)
-        best[:, :-dx] = np.minimum(best[:, :-dx], column[:, dx:] + dx * dx)
-    return best <= radius * radius
 
 
 def sheet(name, size, width, height, glyph):
