@@ -1,0 +1,64 @@
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include <nlohmann/json.hpp>
+
+namespace coilrun {
+
+/// A script under construction; its lines may be added in any order of time.
+class ScriptText {
+ public:
+  ScriptText& At(int millis, std::string command);
+  /// Looks at the state again and again, from `first` to `last`.
+  ScriptText& LookEvery(int millis, int first, int last);
+  std::string Text() const;
+
+ private:
+  std::vector<std::pair<int, std::string>> lines_;
+};
+
+/// What the program did, as seen from outside.
+struct GameRun {
+  int exitCode = -1;
+  std::string output;
+  std::string errors;
+  std::string trace;
+  std::vector<nlohmann::json> states;
+};
+
+/// "Run until": the first state that was looked at in which this holds.
+std::optional<nlohmann::json> FirstWhere(const GameRun& run,
+                                         const std::function<bool(const nlohmann::json&)>& holds);
+
+/// A copy of the built program folder with the levels of these tests, in a temporary folder that
+/// goes with it.
+class ProgramFolder {
+ public:
+  ProgramFolder();
+  ~ProgramFolder();
+  ProgramFolder(const ProgramFolder&) = delete;
+  ProgramFolder& operator=(const ProgramFolder&) = delete;
+
+  /// The program folder.
+  std::filesystem::path Data() const { return home_ / "data"; }
+  /// Where the program runs, and where a script's pictures land.
+  const std::filesystem::path& Home() const { return home_; }
+
+  /// Runs the built program headless with a script. It is stopped after two minutes.
+  GameRun Play(const std::string& script, const std::vector<std::string>& arguments = {}) const;
+  /// Runs the built program with these arguments only.
+  GameRun Run(const std::vector<std::string>& arguments) const;
+
+ private:
+  std::filesystem::path home_;
+};
+
+std::string ReadFile(const std::filesystem::path& file);
+
+}  // namespace coilrun
