@@ -35,6 +35,14 @@ void SdlKeys::Gather(WindowListener& listener) {
   }
 }
 
+void SdlKeys::ForgetRecent() {
+  SDL_PumpEvents();
+  SDL_FlushEvent(SDL_WINDOWEVENT);
+  SDL_FlushEvents(SDL_KEYDOWN, SDL_KEYUP);
+  keys_.ReleaseAll();
+  window_.Damaged();
+}
+
 void SdlKeys::TakeKey(const SDL_KeyboardEvent& event, WindowListener& listener) {
   const int code = ScanCodeOf(event.keysym.scancode);
   if (event.type == SDL_KEYUP) {

@@ -14,6 +14,8 @@ class SdlKeys : public KeySource {
 
   void Gather(WindowListener& listener) override;
   void ReadKeys(KeySnapshot& keys) override { keys_.ReadKeys(keys); }
+  /// Drops the keys and focus changes that were for a box in front of the window.
+  void ForgetRecent();
 
  private:
   void TakeKey(const SDL_KeyboardEvent& event, WindowListener& listener);

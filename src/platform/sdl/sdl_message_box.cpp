@@ -15,13 +15,6 @@ constexpr int kNo = 0;
 constexpr Uint32 kOnEnter = SDL_MESSAGEBOX_BUTTON_RETURNKEY_DEFAULT;
 constexpr Uint32 kOnEscape = SDL_MESSAGEBOX_BUTTON_ESCAPEKEY_DEFAULT;
 
-/// The box took the focus from the window and gave it back; to the game that is no change.
-void ForgetFocusChanges() {
-  SDL_PumpEvents();
-  SDL_FlushEvent(SDL_WINDOWEVENT);
-  SDL_FlushEvents(SDL_KEYDOWN, SDL_KEYUP);
-}
-
 }  // namespace
 
 BoxAnswer SdlMessageBox::Show(const std::string& title, const std::string& text,
@@ -42,7 +35,7 @@ BoxAnswer SdlMessageBox::Show(const std::string& title, const std::string& text,
                                   nullptr};
   int pressed = kNo;
   if (SDL_ShowMessageBox(&box, &pressed) != 0) std::cerr << shownTitle << ": " << shownText << "\n";
-  ForgetFocusChanges();
+  keys_.ForgetRecent();
   if (!isQuestion) return BoxAnswer::kOk;
   return pressed == kYes ? BoxAnswer::kYes : BoxAnswer::kNo;
 }

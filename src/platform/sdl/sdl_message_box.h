@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/sdl/sdl_keys.h"
 #include "platform/sdl/sdl_window.h"
 #include "ports/message_box.h"
 
@@ -9,12 +10,13 @@ namespace coilrun {
 /// answer is the careful one.
 class SdlMessageBox : public MessageBox {
  public:
-  explicit SdlMessageBox(const SdlWindow& window) : window_(window) {}
+  SdlMessageBox(const SdlWindow& window, SdlKeys& keys) : window_(window), keys_(keys) {}
 
   BoxAnswer Show(const std::string& title, const std::string& text, BoxButtons buttons) override;
 
  private:
   const SdlWindow& window_;
+  SdlKeys& keys_;
 };
 
 }  // namespace coilrun

@@ -22,7 +22,7 @@ class SdlPlatform : public WindowPlatform {
         storage_(folders, options.report),
         window_(clock_, options.windowed, folders.program / "coilrun.png"),
         keys_(window_),
-        boxes_(window_),
+        boxes_(window_, keys_),
         audio_(mixer_),
         music_(mixer_, clock_),
         text_(folders.program / "fonts", options.report) {}

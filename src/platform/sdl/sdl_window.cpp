@@ -2,6 +2,7 @@
 
 #include <chrono>
 #include <thread>
+#include <utility>
 
 #include "platform/png_file.h"
 
@@ -12,26 +13,38 @@ constexpr const char* kTitle = "Coilrun";
 /// What a window's frame and a desktop's panel may take of the display's height.
 constexpr int kFrameRoom = 60;
 
+struct Size {
+  int width = kScreenWidth;
+  int height = kScreenHeight;
+};
+
 /// Twice the screen's size where the display has room for it.
-int StartScale() {
+Size WindowedSize() {
   SDL_Rect usable{};
-  if (SDL_GetDisplayUsableBounds(0, &usable) != 0) return 1;
-  return usable.w >= 2 * kScreenWidth && usable.h >= 2 * kScreenHeight + kFrameRoom ? 2 : 1;
+  SDL_GetDisplayUsableBounds(0, &usable);
+  const bool fitsTwice = usable.w >= 2 * kScreenWidth && usable.h >= 2 * kScreenHeight + kFrameRoom;
+  return fitsTwice ? Size{2 * kScreenWidth, 2 * kScreenHeight} : Size{};
+}
+
+/// The whole display: without a window manager a window gets no larger than it was made.
+Size FullSize() {
+  SDL_Rect bounds{};
+  if (SDL_GetDisplayBounds(0, &bounds) != 0) return {};
+  return {bounds.w, bounds.h};
 }
 
 SdlPointer<SDL_Window> CreateWindow(bool windowed) {
   Uint32 flags = SDL_WINDOW_RESIZABLE;
   if (!windowed) flags |= SDL_WINDOW_FULLSCREEN_DESKTOP;
-  const int scale = StartScale();
-  return SdlPointer<SDL_Window>(SDL_CreateWindow(kTitle, SDL_WINDOWPOS_CENTERED,
-                                                 SDL_WINDOWPOS_CENTERED, kScreenWidth * scale,
-                                                 kScreenHeight * scale, flags));
+  const Size size = windowed ? WindowedSize() : FullSize();
+  return SdlPointer<SDL_Window>(SDL_CreateWindow(
+      kTitle, SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED, size.width, size.height, flags));
 }
 
 }  // namespace
 
 SdlWindow::SdlWindow(const SdlClock& clock, bool windowed, const std::filesystem::path& icon)
-    : clock_(clock), windowed_(windowed) {
+    : clock_(clock), windowed_(windowed), hasWindowedSize_(windowed) {
   const bool hardware = HasHardwareRenderer();
   window_ = CreateWindow(windowed);
   if (!window_) {
@@ -82,6 +95,11 @@ void SdlWindow::ToggleFullScreen() {
 
 void SdlWindow::ApplyFullScreen() {
   SDL_SetWindowFullscreen(window_.get(), windowed_ ? 0 : SDL_WINDOW_FULLSCREEN_DESKTOP);
+  if (windowed_ && !std::exchange(hasWindowedSize_, true)) {
+    const Size size = WindowedSize();
+    SDL_SetWindowSize(window_.get(), size.width, size.height);
+    SDL_SetWindowPosition(window_.get(), SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED);
+  }
   presenter_->Forget();
 }
 

@@ -36,6 +36,7 @@ class SdlWindow : public Screen {
 
   const SdlClock& clock_;
   bool windowed_;
+  bool hasWindowedSize_;
   std::string problem_;
   SdlPointer<SDL_Window> window_;
   std::unique_ptr<Presenter> presenter_;
