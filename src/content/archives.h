@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -21,11 +22,15 @@ struct UnpackResult {
 /// True for a file or a folder.
 bool FileExists(const Files& files, const std::string& path);
 
+/// Tells whether an entry with this name may be unpacked; an empty one allows all.
+using EntryFilter = std::function<bool(std::string_view name)>;
+
 /// Unpacks an archive (a game path) into `folder` (a game path that ends in "\") and notes its
 /// files in the archive's clean-up list, which is on disk before the first of them. Files that
 /// exist are passed over unless this is a new installation. An empty password is none.
 UnpackResult SnUnextractFile(const ContentContext& context, const std::string& archive,
-                             const std::string& folder, std::string_view password);
+                             const std::string& folder, std::string_view password,
+                             const EntryFilter& allowed = {});
 
 /// The files' part of leaving the game: ends the main loop and, unless they are to be kept, deletes
 /// every file that a clean-up list names, then the lists. Failures are ignored. The caller has

@@ -1,0 +1,189 @@
+#include "content/load_level.h"
+
+#include <algorithm>
+
+#include "content/ai_snakes.h"
+#include "content/level_reader.h"
+#include "content/lines.h"
+#include "content/placement.h"
+#include "content/snake_timers.h"
+#include "content/user_items.h"
+#include "model/feed.h"
+#include "model/numbers.h"
+
+namespace coilrun {
+namespace {
+
+void ClearField(State& state) {
+  for (WallRec& wall : state.Walls) wall.Present = false;
+  ItemList& power = state.Items(ItemKind::kPower);
+  for (int slot = 1; slot <= power.Live(); ++slot) power(slot).Present = false;
+  for (SpawnRec& point : state.SpawnPoints) {
+    point.Present = false;
+    point.State.clear();
+  }
+  for (UserItemRec& item : state.UserItems) {
+    item.Present = false;
+    item.Name.clear();
+  }
+  for (const ItemKind kind :
+       {ItemKind::kRed, ItemKind::kBlue, ItemKind::kBlack, ItemKind::kTnt, ItemKind::kPower}) {
+    state.Items(kind).count = 0;
+  }
+}
+
+/// Back to the start cells of the level before: the new ones are not known yet.
+void ResetSnake(State& state, int number) {
+  SnakeRec& snake = state.Snakes(number);
+  snake.Dir = Dir::kNone;
+  snake.NextDir = Dir::kNone;
+  snake.Length = 1;
+  for (Int16 SnakeRec::*const field :
+       {&SnakeRec::Grow, &SnakeRec::Frags, &SnakeRec::Deaths, &SnakeRec::RedEaten,
+        &SnakeRec::BlueEaten, &SnakeRec::BlackEaten, &SnakeRec::YellowEaten, &SnakeRec::PowerEaten,
+        &SnakeRec::TNT}) {
+    snake.*field = 0;
+  }
+  snake.Score = 0;
+  snake.Interval = snake.BaseInterval;
+  snake.X = int{snake.StartX};
+  snake.Y = int{snake.StartY};
+  if (number <= state.mode.NumSnakes) {
+    state.timers.SetInterval(state.timers.iWait(number - 1), snake.BaseInterval);
+  }
+}
+
+void ResetProperties(State& state) {
+  LevelState& level = state.level;
+  state.mode.NumSnakes = 1;
+  level.blueRate = 40;
+  level.powerRate = 200;
+  level.reqYellow = level.reqRed = level.reqBlue = level.reqBlack = 0;
+  level.reqScore = 0;
+  state.shell.lvlTime = false;
+  level.ElapsedSecs = 0;
+  level.Timeout = 0;
+  for (bool LevelState::*const flag :
+       {&LevelState::UsesRed, &LevelState::UsesBlue, &LevelState::UsesBlack, &LevelState::UsesTNT,
+        &LevelState::UsesPower, &LevelState::hasOpenWalls, &LevelState::HideCollected,
+        &LevelState::UserItemsUsed}) {
+    level.*flag = false;
+  }
+}
+
+void ResetMenus(MenuState& menus) {
+  menus.MainCursor = 1;
+  menus.OptionsCursor = 1;
+  menus.EntryLit(1) = true;
+  menus.StatusText = "Welcome to Coilrun";
+}
+
+/// What the map and the keys of the new level add to.
+void ResetTables(State& state) {
+  constexpr Point kDefaultStart{310, 230};
+  state.numSpawnPoints = 0;
+  state.numUserItems = 0;
+  state.Items(ItemKind::kYellow).count = 0;
+  state.numWalls = 0;
+  SnakeRec& player = state.Snakes(1);
+  player.StartX = kDefaultStart.x;
+  player.StartY = kDefaultStart.y;
+  player.Dir = Dir::kNone;
+  player.NextDir = Dir::kNone;
+}
+
+bool PlaceItems(State& state) {
+  for (const ItemKind kind : {ItemKind::kYellow, ItemKind::kRed, ItemKind::kBlue, ItemKind::kBlack,
+                              ItemKind::kTnt, ItemKind::kPower}) {
+    ItemList& items = state.Items(kind);
+    for (int slot = 1; slot <= items.Live(); ++slot) {
+      items(slot).Present = PlaceItem(state, kind, slot, true);
+    }
+    if (items.count > kMaxItems) return false;
+  }
+  return true;
+}
+
+bool LoadPictures(const ContentContext& context) {
+  State& state = context.state;
+  ConsolePrint(state, "LoadLevel: Loading background image: " + state.level.BkgPic);
+  context.host.LoadBackground();
+  ConsolePrint(state, "LoadLevel: Loading Textures...");
+  context.host.PrepareLvlGfx();
+  return !state.level.UserItemsUsed || LoadUserItems(context);
+}
+
+/// The AI snakes that the command line or the level asks for, as far as the map has starts.
+bool SetupSnakes(const ContentContext& context) {
+  State& state = context.state;
+  ModeState& mode = state.mode;
+  if (!mode.AiEnabled) {
+    StopSnakeTimers(state);
+    mode.NumSnakes = 1;
+    return true;
+  }
+  const double asked =
+      mode.AiSwitchGiven ? mode.AiCount + 1 : static_cast<double>(int{mode.NumSnakes});
+  const double offered = std::min<int>(state.level.MapSnakeCount, kMaxSnakes);
+  mode.NumSnakes = RoundToInt(std::clamp(asked, 1.0, std::max(offered, 1.0)));
+  StartSnakeTimers(state);
+  state.timers.SetInterval(state.timers.iWait(0), state.Snakes(1).Interval);
+  return SetupAiSnakes(state, context.files);
+}
+
+void SetMatchLimit(ModeState& mode) {
+  constexpr int kHuntingLength = 30;
+  constexpr int kFrags = 120;
+  if (mode.MatchLimit <= 1) mode.MatchLimit = mode.HuntingMode ? kHuntingLength : kFrags;
+}
+
+bool TryLoadLevel(const ContentContext& context, const std::string& path) {
+  State& state = context.state;
+  ResetLevelState(context);
+  ResetSnakeTimers(state);
+  ResetTables(state);
+  ConsolePrint(state, "LoadLevel: Loading Level " + path);
+  const auto file = context.files.Read(path);
+  if (!file) return false;
+  LevelReader reader(context);
+  if (!reader.Read(TextOf(*file))) return false;
+  state.shell.WaitingForStart = true;
+  MessagePrint(state, "Welcome!");
+  state.shell.Running = true;
+  if (!PlaceItems(state)) return false;
+  state.numWalls = reader.WallCount();
+  if (!LoadPictures(context) || !SetupSnakes(context)) return false;
+  SetMatchLimit(state.mode);
+  state.shell.ShowLevelScreen = true;
+  state.shell.NoGameRunning = false;
+  state.level.ElapsedSecs = 0;
+  return true;
+}
+
+}  // namespace
+
+void ResetLevelState(const ContentContext& context) {
+  State& state = context.state;
+  ClearField(state);
+  state.settings.SpeedGain = 0;
+  state.settings.SpeedTicks = 0;
+  for (int number = 1; number <= kMaxSnakes; ++number) ResetSnake(state, number);
+  ResetProperties(state);
+  context.host.LoadSettings();
+  state.level.BkgPic = "\\gfx\\bkg_standart.bmp";
+  ResetMenus(state.menus);
+}
+
+void LoadLevel(const ContentContext& context, const std::string& path) {
+  if (TryLoadLevel(context, path)) return;
+  State& state = context.state;
+  state.shell.NoGameRunning = true;
+  state.shell.InMenu = true;
+  state.shell.LevelIntroPending = false;
+  state.shell.ShowLevelScreen = false;
+  state.shell.Running = true;
+  state.menus.StatusText = "Level " + path + " does not exist";
+  DebugPrint(state, state.menus.StatusText);
+}
+
+}  // namespace coilrun

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string_view>
+
+#include "model/records.h"
+
+namespace coilrun {
+
+/// Reads the description of a model pack: "NAME=", "AUTHOR=", "EDGES=", "EDGES_INVERS=" and
+/// "TAIL_EDGES=" lines. What it does not say stays as it is.
+void ReadModelIni(std::string_view text, ModelPack& pack);
+
+}  // namespace coilrun
