@@ -20,9 +20,9 @@ struct Face {
 };
 
 constexpr Face kFaces[] = {
-    {"Balloon", "ComicNeue-Bold.ttf", "ComicNeue-Bold.ttf"},
-    {"Courier New", "LiberationMono-Regular.ttf", "LiberationMono-Bold.ttf"},
-    {"Arial", "LiberationSans-Regular.ttf", "LiberationSans-Bold.ttf"},
+    {"Balloon", "ComicNeue-Bold", "ComicNeue-Bold"},
+    {"Courier New", "LiberationMono-Regular", "LiberationMono-Bold"},
+    {"Arial", "LiberationSans-Regular", "LiberationSans-Bold"},
 };
 constexpr const Face& kSansFace = kFaces[2];
 
@@ -110,16 +110,16 @@ class SdlText::Fonts {
 
   /// The open font, opened at the first call; nothing, also the first time only looked for, when
   /// there is none.
-  TTF_Font* Open(const char* file, int points) {
+  TTF_Font* Open(const std::string& name, int points) {
     if (!ready_ || points <= 0) return nullptr;
-    const auto [entry, isNew] = fonts_.try_emplace({file, points});
-    if (isNew) {
-      const std::string path = (folder_ / file).string();
-      entry->second.reset(TTF_OpenFont(path.c_str(), PixelSize(points)));
-      if (!entry->second && missing_.insert(file).second)
-        report_("The font " + path + " cannot be opened");
-    }
-    return entry->second.get();
+    const auto [entry, isNew] = fonts_.try_emplace({name, points});
+    Font& font = entry->second;
+    for (const char* const ending : {".ttf", ".otf"})
+      if (isNew && !font)
+        font.reset(TTF_OpenFont((folder_ / (name + ending)).c_str(), PixelSize(points)));
+    if (!font && missing_.insert(name).second)
+      report_("The font " + (folder_ / name).string() + " cannot be opened");
+    return font.get();
   }
 
   std::filesystem::path folder_;
