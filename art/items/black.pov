@@ -61,6 +61,6 @@ union {
   Strip(0, 5.5, 4.2)
   Strip(117, 5.2, 3.4)
   Strip(243, 5.7, 3.8)
-  translate <0, 0.8, 0>
+  translate <0, 0.45, 0>
   rotate y * (Turn + 75)
 }

@@ -10,7 +10,7 @@ Stage(66, 9)
     texture {
       pigment {
         granite scale (Lengthwise ? <14, 2, 1.2> : <1.2, 14, 1.2>) translate 60 * rand(R)
-        color_map { [0.2 rgb <0.50, 0.22, 0.05> * Tone] [0.8 rgb <0.84, 0.46, 0.14> * Tone] }
+        color_map { [0.2 rgb <0.44, 0.16, 0.03> * Tone] [0.8 rgb <0.76, 0.36, 0.09> * Tone] }
       }
       finish { ambient 0.2 diffuse 0.85 specular 0.08 }
     }
