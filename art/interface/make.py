@@ -19,8 +19,9 @@ GOLD = ((255, 250, 214), (255, 214, 84), (232, 140, 22), (112, 52, 6))
 RED = ((255, 214, 196), (250, 84, 60), (190, 18, 14), (90, 4, 6))
 BLUE = ((220, 240, 255), (96, 170, 255), (30, 80, 220), (10, 24, 110))
 IVORY = ((255, 255, 255), (255, 250, 226), (255, 226, 150), (150, 92, 20))
-BRONZE = ((255, 240, 190), (240, 206, 130), (206, 156, 72), (96, 58, 16))
+BRONZE = ((255, 250, 220), (255, 228, 150), (238, 192, 98), (110, 70, 20))
 SHADE = (30, 16, 6)
+ICONS = (16, 32, 48, 64, 128, 256)
 LIGHTS = {"Yellow": (255, 222, 30), "Red": (255, 44, 30), "Blue": (60, 120, 255), "Green": (50, 230, 60)}
 
 
@@ -70,9 +71,17 @@ def standing_out(layer, outline=2.0, shadow=4.0):
     return np.concatenate([colour, total[..., None]], axis=2)
 
 
-def background(scene, title, place, subtitle=None, fade=(396, 434, 0.2)):
+def graded(picture):
+    """More contrast and colour: takes the haze off a scene."""
+    picture = np.clip((picture - 0.05) / 0.93, 0, 1)
+    picture = picture + 0.32 * (picture * picture * (3 - 2 * picture) - picture)
+    grey = picture.mean(axis=2, keepdims=True)
+    return np.clip(grey + 1.16 * (picture - grey), 0, 1)
+
+
+def background(scene, title, place, subtitle=None, fade=(410, 438, 0.16)):
     """A scene with the name of the game, perhaps a second line, and a dark foot for the status lines."""
-    picture = reduce.load_rgba(scene)[..., :3]
+    picture = graded(reduce.load_rgba(scene)[..., :3])
     rows = np.arange(SCREEN[1])
     x = np.clip((rows - fade[0]) / (fade[1] - fade[0]), 0, 1)
     dim = 1 - (1 - fade[2]) * x * x * (3 - 2 * x)
@@ -95,7 +104,7 @@ def button(plate, text, ramp):
     rgba = np.repeat(np.repeat(reduce.load_rgba(plate), 2, axis=0), 2, axis=1)
     srgb, coverage = reduce.block_average(rgba, FINE)
     mask = reduce.opaque_mask(coverage)
-    label = small(caption(text, LIBERATION + "Sans-Bold.ttf", 15, 0.4, 250, 30, 20.5, ramp, 0.9, 1.1, (14, 12, 8)), FINE)
+    label = small(caption(text, LIBERATION + "Sans-Bold.ttf", 14, 0.5, 250, 30, 20, ramp, 0.9, 1.1, (14, 12, 8)), FINE)
     srgb = over(reduce.sharpen(srgb, mask), label)
     return reduce.keyed(srgb, mask, reduce.BLACK, reduce.BRIGHT_INTERFACE)
 
@@ -137,11 +146,13 @@ def main():
     title = reduce.load_rgba(name)
 
     menus = GFX / "menu"
-    reduce.save(background(menu, title, (204, 4, 428)), menus / "bkg.png")
-    line = ("Options", 46, 158, 320)
-    reduce.save(background(options, title, (150, 2, 340), line, (436, 462, 0.25)), menus / "bkg_o.png")
+    reduce.save(background(menu, title, (212, 0, 420)), menus / "bkg.png")
+    line = ("Options", 38, 117, 316)
+    reduce.save(background(options, title, (148, 2, 340), line, (436, 462, 0.25)), menus / "bkg_o.png")
     line = ("High Scores", 46, 164, 408)
     reduce.save(background(scores, title, (250, 4, 340), line, (432, 458, 0.25)), menus / "bkg_hs.png")
+    intro = Image.fromarray(background(menu, title, (266, 6, 366), fade=(478, 480, 1)))
+    intro.crop((0, 4, 640, 248)).resize((394, 150), Image.LANCZOS).save(ROOT / "assets" / "intro.png", optimize=True)
     for file, text in BUTTONS.items():
         reduce.save(button(normal, text, BRONZE), menus / f"{file}_n.png")
         reduce.save(button(lit, text, IVORY), menus / f"{file}_h.png")
@@ -150,6 +161,17 @@ def main():
     for file, colour in LIGHTS.items():
         reduce.save(light(colour), GFX / f"LED_{file}.png")
     reduce.save(reduce.reduce_render(reduce.load_rgba(panel), PLATE_FINE, reduce.BLACK, 18), GFX / "statistics.png")
+    icons()
+
+
+def icons():
+    """The program's icon; the smallest sizes come from a drawing with less in it."""
+    folder = ROOT / "assets" / "icon"
+    drawings = [HERE / "icon_small.svg" if size < 40 else folder / "coilrun.svg" for size in ICONS]
+    jobs = [Drawing(drawing, 8 * size / 256) for drawing, size in zip(drawings, ICONS)]
+    for size, (file,) in zip(ICONS, render_all(jobs)):
+        fine = Image.open(file).convert("RGBa").resize((size, size), Image.BOX)
+        fine.convert("RGBA").save(folder / f"coilrun-{size}.png", optimize=True)
 
 
 if __name__ == "__main__":

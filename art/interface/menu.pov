@@ -1,7 +1,7 @@
 // The main page: a boa around a column in a ruined court at dusk.
 #include "court.inc"
 
-camera { location <0.6, 2.7, -13> look_at <0.3, 3.5, 0> right 4 / 3 * x angle 54 }
+camera { location <0.6, 2.7, -13> look_at <0.3, 3.27, 0> right 4 / 3 * x angle 54 }
 
 object { Column(1.1, 7.6, 1, 1) translate <-4.1, 0, 0.6> }
 object { Fern(9, 1.3, 21) translate <-6.0, 0, -1.2> }
@@ -13,9 +13,9 @@ object { Fern(11, 1.7, 27) translate <6.1, 0, -3.4> }
 object { Fern(11, 1.6, 28) translate <-5.6, 0, -4.4> }
 object { Fern(8, 0.8, 26) translate <-5.4, 0, -3.2> }
 
-object { Bunch(7, 1.7, 31) rotate 20 * y translate <5.0, 1.62, -2.6> }
-object { Banana(1.6) rotate 96 * z rotate -30 * y translate <3.1, 0.28, -3.6> }
-object { Banana(1.5) rotate 94 * z rotate 35 * y translate <3.9, 0.26, -4.2> }
+object { Bunch(7, 1.7, 31) rotate 20 * y translate <5.3, 1.62, -1.5> }
+object { Banana(1.6) rotate 96 * z rotate -30 * y translate <3.7, 0.28, -2.6> }
+object { Banana(1.5) rotate 94 * z rotate 35 * y translate <4.9, 0.26, -3.1> }
 
 // The boa: from its tail on the floor to the column, up around it, and out to the right.
 #declare Cx = -4.1;

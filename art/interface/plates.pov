@@ -1,4 +1,4 @@
-// Metal-framed plates, one unit a pixel: Which 1 is a menu button, 2 the panel of the level-start screen, 3 the intro panel.
+// Metal-framed plates, one unit a pixel: Which 1 is a menu button, 2 the panel of the level-start screen.
 #version 3.7;
 #ifndef (Which) #declare Which = 1; #end
 #ifndef (Lit) #declare Lit = 0; #end
@@ -63,16 +63,25 @@ sphere { 0, 3000
   Frame(6.5, 10, 243.5, 20, 0.55, Metal)
   #for (S, 0, 1) Stud(21 + 208 * S, 15, 2.6, Metal) Stud(28.5 + 193 * S, 15, 1.3, Metal) #end
 #else
-  Frame(4, 4, 311, 197, 3.6, Bronze)
-  box { <4, 4, 0>, <311, 197, 4>
-    pigment { granite scale 60 colour_map { [0 rgb <0.009, 0.014, 0.011>] [0.6 rgb <0.013, 0.020, 0.015>] [1 rgb <0.019, 0.027, 0.020>] } }
+  union {
+    cylinder { <4, 4, 0>, <4, 197, 0>, 3.6 }
+    cylinder { <311, 4, 0>, <311, 197, 0>, 3.6 }
+    cylinder { <4, 197, 0>, <311, 197, 0>, 3.6 }
+    cylinder { <4, 1.4, 0>, <311, 1.4, 0>, 1.2 }
+    cylinder { <6, 18, 0>, <309, 18, 0>, 1.2 }
+    texture { Bronze }
+  }
+  box { <4, 1, 0>, <311, 197, 4>
+    pigment {
+      granite scale 60
+      colour_map { [0 rgb <0.009, 0.014, 0.011>] [0.6 rgb <0.013, 0.020, 0.015>] [1 rgb <0.019, 0.027, 0.020>] }
+    }
     finish { ambient 0.35 diffuse 0.8 }
   }
-  Frame(9, 20, 306, 192, 0.7, Bronze)
-  cylinder { <6, 18, 0>, <309, 18, 0>, 1.3 texture { Bronze } }
-  // A sunken strip for the five lights.
-  box { <262, 5.6, -0.5>, <312 - 3, 13.5, 1> pigment { rgb <0.004, 0.006, 0.005> } finish { ambient 0.3 diffuse 0.6 } }
-  Frame(261, 4.9, 309.4, 13.5, 0.8, Bronze)
-  #for (I, 0, 1) #for (J, 0, 1) Stud(4 + 307 * I, 4 + 193 * J, 5.5, Bright_gold) #end #end
-  Stud(157.5, 197, 4.6, Bright_gold)
+  // Below: a strip for the key's name and the five lights.
+  box { <6, 2, -0.4>, <309, 17.4, 1> pigment { rgb <0.030, 0.020, 0.010> } finish { ambient 0.3 diffuse 0.6 } }
+  Frame(262.5, 2.2, 312.6, 9.6, 0.6, Bronze)
+  box { <263, 2.2, -3.2>, <312.6, 9.6, 1> pigment { rgb <0.006, 0.007, 0.006> } finish { ambient 0.4 diffuse 0.6 } }
+  #for (I, 0, 1) Stud(4.6 + 305.8 * I, 196.4, 4.5, Bright_gold) Stud(4.4 + 306.2 * I, 18, 3.4, Bright_gold) #end
+  Stud(157.5, 197, 4.0, Bright_gold)
 #end
