@@ -11,7 +11,7 @@ from lib.render import ROOT
 from tube import BACK, CELL, FORW, LEFT, RIGHT, Canvas, Path, Ring
 
 TARGET = ROOT / "assets" / "models"
-AUTHOR = "the Coilrun workshop"
+AUTHOR = "Coilrun"
 HEADS = {"head_forw": FORW, "head_back": BACK, "head_left": LEFT, "head_right": RIGHT}
 STRAIGHT = {"Snake_forw": FORW, "Snake_back": BACK, "Snake_left": LEFT, "Snake_right": RIGHT}
 TAILS = {"tail_forw": FORW, "tail_back": BACK, "tail_left": LEFT, "tail_right": RIGHT}
