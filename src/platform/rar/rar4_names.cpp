@@ -1,6 +1,8 @@
 #include "platform/rar/rar4_names.h"
 
 #include <algorithm>
+#include <bit>
+#include <string_view>
 
 #include "ports/byte_reader.h"
 #include "ports/windows_1252.h"
@@ -45,6 +47,23 @@ std::string Utf8Of(std::u16string_view units) {
     }
   }
   return text;
+}
+
+/// Unix programs stored UTF-8 without saying so; texts of other encodings hardly ever look like it.
+bool LooksLikeUtf8(std::string_view text) {
+  int following = 0;
+  for (const char letter : text) {
+    const auto byte = static_cast<unsigned char>(letter);
+    const bool follows = (byte & 0xC0) == 0x80;
+    if (follows != (following > 0)) return false;
+    if (follows) {
+      --following;
+    } else if (byte >= 0x80) {
+      following = std::countl_one(byte) - 1;
+      if (following > 3) return false;
+    }
+  }
+  return following == 0;
 }
 
 /// Rebuilds the UTF-16 name: two bits a step say whether the next unit stands as a byte, as a byte
@@ -99,7 +118,7 @@ std::string DecodeRar4Name(std::span<const std::uint8_t> stored, bool unicode) {
   std::string name(stored.begin(), zero);
   if (unicode && zero != stored.end()) {
     name = Utf8Of(TwoPartName(stored.first(narrowSize), stored.subspan(narrowSize + 1)).Decode());
-  } else if (!unicode) {
+  } else if (!unicode && !LooksLikeUtf8(name)) {
     name = ToUtf8(name);
   }
   std::replace(name.begin(), name.end(), '\\', '/');

@@ -10,9 +10,10 @@
 namespace coilrun {
 namespace {
 
-constexpr std::int64_t kMaxRounds5 = std::int64_t{1} << 24;
-constexpr std::size_t kMaxKeys4 = 1024;
 constexpr std::uint32_t kRounds4 = 0x40000;
+
+/// What a key of generation 4 costs in rounds of generation 5.
+constexpr std::int64_t kWorkOfKey4 = std::int64_t{1} << 14;
 
 Digest256 Stretch(const std::string& password, const RarSalt& salt, int rounds) {
   Digest256 key{};
@@ -95,15 +96,16 @@ std::optional<Rar5Keys> RarKeyRing::Keys5(const RarSalt& salt, int exponent) {
   if (exponent > kMaxExponent) return std::nullopt;
   const auto known = keys5_.find({salt, exponent});
   if (known != keys5_.end()) return known->second;
-  rounds_ += std::int64_t{1} << exponent;
-  if (rounds_ > kMaxRounds5) return std::nullopt;
+  workLeft_ -= std::int64_t{1} << exponent;
+  if (workLeft_ < 0) return std::nullopt;
   return keys5_[{salt, exponent}] = DeriveRar5Keys(password_, salt, exponent);
 }
 
 std::optional<Rar4Keys> RarKeyRing::Keys4(const std::optional<Rar4Salt>& salt) {
   const auto known = keys4_.find(salt);
   if (known != keys4_.end()) return known->second;
-  if (keys4_.size() >= kMaxKeys4) return std::nullopt;
+  workLeft_ -= kWorkOfKey4;
+  if (workLeft_ < 0) return std::nullopt;
   return keys4_[salt] = DeriveRar4Keys(password_, salt);
 }
 

@@ -27,7 +27,11 @@ class RarKeyRing {
  public:
   static constexpr int kMaxExponent = 20;
 
-  explicit RarKeyRing(std::string password) : password_(std::move(password)) {}
+  /// Some seconds of work, counted in rounds of generation 5.
+  static constexpr std::int64_t kUsualWork = std::int64_t{1} << 22;
+
+  explicit RarKeyRing(std::string password, std::int64_t work = kUsualWork)
+      : password_(std::move(password)), workLeft_(work) {}
 
   bool HasPassword() const { return !password_.empty(); }
   /// Nothing for an exponent above `kMaxExponent` or when the archive's share of work is used up.
@@ -38,7 +42,7 @@ class RarKeyRing {
   std::string password_;
   std::map<std::pair<RarSalt, int>, Rar5Keys> keys5_;
   std::map<std::optional<Rar4Salt>, Rar4Keys> keys4_;
-  std::int64_t rounds_ = 0;
+  std::int64_t workLeft_;
 };
 
 Rar5Keys DeriveRar5Keys(const std::string& password, const RarSalt& salt, int exponent);

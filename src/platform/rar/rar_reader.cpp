@@ -28,9 +28,17 @@ bool PasswordIsProven(const RarPacked& packed) {
   return packed.encryption5 && packed.encryption5->recipe.check;
 }
 
-std::string DamageProblem(const RarPacked& packed) {
-  return packed.Encrypted() && !PasswordIsProven(packed) ? "wrong password or damaged contents"
-                                                         : "its contents are damaged";
+/// libarchive spoils compressed contents of generation 4 where they outgrow its 4 MiB dictionary.
+bool MayBeBeyondLibarchive(const RarEntry& entry) {
+  return entry.packed.version > 0 && Compressed(entry) && entry.size >= std::uint64_t{4} << 20;
+}
+
+std::string DamageProblem(const RarEntry& entry) {
+  if (MayBeBeyondLibarchive(entry))
+    return "its contents are damaged or too large to decompress in this generation";
+  return entry.packed.Encrypted() && !PasswordIsProven(entry.packed)
+             ? "wrong password or damaged contents"
+             : "its contents are damaged";
 }
 
 }  // namespace
@@ -67,8 +75,7 @@ RarContents RarReader::Read(std::size_t index) {
   const std::string problem = PasswordProblem(entry.packed);
   if (!problem.empty()) return {{}, problem};
   RarContents contents = Compressed(entry) ? Unpack(index) : Unstore(entry);
-  if (contents.Ok() && !SumsFit(entry.packed, contents.bytes))
-    return {{}, DamageProblem(entry.packed)};
+  if (contents.Ok() && !SumsFit(entry.packed, contents.bytes)) return {{}, DamageProblem(entry)};
   return contents;
 }
 
@@ -117,7 +124,7 @@ RarContents RarReader::Unpack(std::size_t index) {
   if (!problem.empty()) return {{}, problem};
   const auto place = std::lower_bound(unpackerGroup_.begin(), unpackerGroup_.end(), index);
   auto contents = unpacker_->Unpack(static_cast<std::size_t>(place - unpackerGroup_.begin()));
-  if (!contents) return {{}, DamageProblem(Entries()[index].packed)};
+  if (!contents) return {{}, DamageProblem(Entries()[index])};
   return {std::move(*contents), {}};
 }
 
