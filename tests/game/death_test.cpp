@@ -63,47 +63,41 @@ TEST(KillSnake, SinglePlayCostsALifeAndRestartsTheClock) {
   field.state.numSpawnPoints = 1;
   field.state.SpawnPoints(1) = {200, 200, true, "new"};
   field.host.storedInterval = 90;
-  field.host.onYield = [&] { EXPECT_FALSE(field.state.shell.lvlTime && field.host.yields > 1); };
+  field.host.onYield = [&] {
+    const ShellState& shell = field.state.shell;
+    EXPECT_EQ(shell.lvlTime, field.host.yields == 1) << "the clock stands during the wait";
+    EXPECT_EQ(shell.WaitingAfterDeath, field.host.yields == 2);
+  };
   KillSnake(field.game, 1, DeathCause::kEdge);
 
+  EXPECT_EQ(field.Has(1), "100,100  length 1+0 score 0 lives 2 frags 0 ate 50000 tnt 2 safe 0");
+  EXPECT_EQ(player.Tail.Dir, Dir::kNone);
+  EXPECT_EQ(player.Seg(2).X, -20);
   EXPECT_THAT(field.host.calls, ElementsAre("\\snd\\wall.wav 1", "load"));
   EXPECT_EQ(field.host.yields, 2) << "once instead of a message, once in the wait";
-  EXPECT_EQ(field.host.screen[215], "*                          *");
-  EXPECT_EQ(field.host.screen[200], std::string(28, '*'));
-  EXPECT_EQ(field.host.screen[260], std::string(28, '*'));
+  const std::string edge(28, '*');
+  const std::string side = "*" + std::string(26, ' ') + "*";
+  EXPECT_THAT(field.host.screen,
+              ElementsAre("215 Uh - You loose a live...", "230 -Press Enter-", "200 " + edge,
+                          "215 " + side, "230 " + side, "245 " + side, "260 " + edge));
   EXPECT_THAT(field.Feed(), IsEmpty());
-  EXPECT_EQ(player.Head(), (Point{100, 100}));
-  EXPECT_EQ(player.Dir, Dir::kNone);
-  EXPECT_EQ(player.Tail.Dir, Dir::kNone);
-  EXPECT_EQ(player.Length, 1);
-  EXPECT_EQ(player.Grow, 0);
-  EXPECT_EQ(player.Seg(2).X, -20);
-  EXPECT_EQ(player.Score, 0);
-  EXPECT_EQ(player.Lives, 2);
-  EXPECT_EQ(player.YellowEaten, 5);
-  EXPECT_EQ(player.TNT, 2);
-  EXPECT_EQ(player.ImmortalSecs, 0);
   EXPECT_EQ(field.state.level.ElapsedSecs, 0);
   EXPECT_EQ(field.state.settings.SpeedGain, 0);
   EXPECT_EQ(field.state.timers.iWait(0).Interval, 90) << "the stored speed, no level's";
   EXPECT_TRUE(hidden.Present && !hidden.Collected);
   EXPECT_EQ(field.state.SpawnPoints(1).State, "");
-  EXPECT_TRUE(field.state.shell.lvlTime);
   EXPECT_FALSE(field.state.shell.WaitingAfterDeath || field.state.shell.WaitingForKey);
   EXPECT_EQ(field.state.CenterLines(0).Text, "");
 }
 
 TEST(KillSnake, AMatchTakesTheHarvestInsteadOfALife) {
   Field field;
-  const SnakeRec& player = Busy(field);
+  Busy(field);
   field.state.mode.GameMode = GameMode::kDeathmatch;
   field.Draws([](Rnd rnd) { return rnd.Below(3) == 1; });
   KillSnake(field.game, 1, DeathCause::kEdge);
   EXPECT_THAT(field.Feed(), ElementsAre("A wall stopped Ann"));
-  EXPECT_EQ(player.Lives, 3);
-  EXPECT_EQ(player.Score, -40);
-  EXPECT_EQ(player.YellowEaten, 0);
-  EXPECT_EQ(player.TNT, 0);
+  EXPECT_EQ(field.Has(1), "100,100  length 1+0 score -40 lives 3 frags 0 ate 00000 tnt 0 safe 0");
   EXPECT_EQ(field.state.level.ElapsedSecs, 33);
 }
 
@@ -124,9 +118,9 @@ TEST(GameOver, OverwritesOneEntryAndShiftsNone) {
     int place;
   };
   for (const auto& [cheated, total, notice, place] :
-       std::vector<Row>{{false, 8500, "This is a new High Score!", 3},
-                        {true, 8500, "This would be a new High Score! - But you cheated!", 0},
-                        {false, 1000, std::string(4, ' '), 0}}) {
+       std::vector<Row>{{false, 8500, "260 This is a new High Score!", 3},
+                        {true, 8500, "260 This would be a new High Score! - But you cheated!", 0},
+                        {false, 1000, "200 " + std::string(20, '*'), 0}}) {
     Field field;
     for (int i = 1; i <= kHiScores; ++i) field.state.HiScore(i) = {"Old", 11000.0 - 1000 * i};
     field.state.mode.Cheated = cheated;
@@ -134,18 +128,15 @@ TEST(GameOver, OverwritesOneEntryAndShiftsNone) {
     SnakeRec& player = field.Put(1, {0, 0});
     player.Lives = 0;
     player.TotalScore = total;
-    player.Score = 500;
-    std::vector<std::string> texts;
-    field.host.onYield = [&] { texts.push_back(field.state.CenterLines(3).Text); };
     KillSnake(field.game, 1, DeathCause::kEdge);
     EXPECT_THAT(field.host.overlays, ElementsAre(WaitOverlay::kNone, WaitOverlay::kGameOver));
-    EXPECT_EQ(texts.back(), place == 0 && !cheated ? "" : notice);
+    EXPECT_EQ(field.host.screen.at(2), "245 Your Score: " + std::to_string(total));
+    EXPECT_EQ(field.host.screen.at(3), notice);
     for (int i = 1; i <= kHiScores; ++i) {
       EXPECT_EQ(field.state.HiScore(i).Name, i == place ? "Ann" : "Old") << i;
       EXPECT_EQ(field.state.HiScore(i).Score, i == place ? total : 11000 - 1000 * i) << i;
     }
-    EXPECT_EQ(std::count(field.host.calls.begin(), field.host.calls.end(), "save"),
-              place == 0 ? 0 : 1);
+    EXPECT_EQ(field.host.calls.back(), place == 0 ? "load" : "save");
     EXPECT_EQ(field.state.menus.ScorePage, place == 0 ? 0 : 1);
     EXPECT_TRUE(field.state.shell.InMenu && field.state.shell.NoGameRunning);
     EXPECT_EQ(player.TotalScore, 0);

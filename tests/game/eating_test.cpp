@@ -49,8 +49,8 @@ TEST(EatItems, YellowComesBackElsewhereAndBringsTheFirstRed) {
   EXPECT_TRUE(yellow.Present && red.Present);
   EXPECT_NE(yellow.At(), kHead);
   EXPECT_EQ(field.state.SpawnPoints(1).State, "") << "released, and passed over once";
-  EXPECT_EQ(field.Snake(2).Score, 10);
-  EXPECT_EQ(field.Snake(2).Length, 2);
+  EXPECT_EQ(field.Has(2),
+            "200,200 Right length 2+0 score 10 lives 3 frags 0 ate 10000 tnt 0 safe 0");
   EXPECT_THAT(field.host.calls, ElementsAre(kCollect + " 2"));
 
   red.Present = false;
@@ -103,8 +103,8 @@ TEST(EatItems, RedSpeedsUpByThePeriodOfTheTimer) {
     EXPECT_TRUE(timers.ResetSpeed.Enabled);
     EXPECT_EQ(field.state.settings.PrevInterval, timer);
     EXPECT_EQ(field.Feed(), feed);
-    EXPECT_EQ(field.Player().Score, 30);
-    EXPECT_EQ(field.Player().Length, 2);
+    EXPECT_EQ(field.Has(1),
+              "200,200 Right length 2+0 score 30 lives 3 frags 0 ate 01000 tnt 0 safe 0");
   }
 }
 
@@ -142,8 +142,8 @@ TEST(EatItems, BlackSlowsDownByTheFieldOrCostsPoints) {
   Field robbed;
   eat(robbed, [](Rnd r) { return r.Below(2) == 0 && r.Below(50) == 49; });
   EXPECT_THAT(robbed.Feed(), ElementsAre("You lost 59 points!"));
-  EXPECT_EQ(robbed.Player().Score, -59);
-  EXPECT_EQ(robbed.Player().BlackEaten, 1);
+  EXPECT_EQ(robbed.Has(1),
+            "200,200 Right length 1+0 score -59 lives 3 frags 0 ate 00010 tnt 0 safe 0");
 }
 
 TEST(EatItems, TheTenthBlueRewardsByMode) {
@@ -182,10 +182,9 @@ TEST(EatItems, TntAndPowerAreMovedAndHidden) {
   EXPECT_FALSE(tnt.Present || power.Present);
   EXPECT_NE(tnt.At(), kHead);
   EXPECT_NE(power.At(), kHead);
-  EXPECT_EQ(field.Player().TNT, 1);
-  EXPECT_EQ(field.Player().Score, -100);
+  EXPECT_EQ(field.Has(1),
+            "200,200 Right length 1+0 score -100 lives 3 frags 0 ate 00001 tnt 1 safe 23");
   EXPECT_TRUE(field.Player().Immortal);
-  EXPECT_EQ(field.Player().ImmortalSecs, 23);
   EXPECT_THAT(field.Feed(), ElementsAre("You got TNT, now you can blow walls!",
                                         "Ann has Atomic Power and is immortal for 23 seconds!"));
 }

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <initializer_list>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -24,8 +25,9 @@ class RecordingHost : public GameHost {
     calls.push_back(std::string{path} + " " + std::to_string(snake));
   }
   void DrawFrame() override {
+    screen.clear();
     for (const CenterLine& line : state_.CenterLines) {
-      if (!line.Text.empty()) screen[line.Y] = line.Text;
+      if (!line.Text.empty()) screen.push_back(std::to_string(line.Y) + " " + line.Text);
     }
     overlays.push_back(state_.overlay);
   }
@@ -46,7 +48,7 @@ class RecordingHost : public GameHost {
   void SaveSettings() override { calls.emplace_back("save"); }
 
   std::vector<std::string> calls;
-  std::map<int, std::string> screen;  ///< what waits have shown last, by Y
+  std::vector<std::string> screen;  ///< the centred texts drawn last, each after its Y
   std::vector<WaitOverlay> overlays;
   std::function<void()> onYield;
   int yields = 0;
@@ -117,6 +119,17 @@ struct Field {
   /// Finds a generator that draws what `wanted` asks of it.
   void Draws(const std::function<bool(Rnd)>& wanted) {
     for (std::uint64_t seed = 0; !wanted(state.Rnd); ++seed) state.Rnd.Reseed(seed);
+  }
+  /// What a snake has, in one line: place, length and growth, points, eaten items by kind, charges.
+  std::string Has(int number) {
+    const SnakeRec& snake = Snake(number);
+    std::ostringstream text;
+    text << snake.X << ',' << snake.Y << ' ' << Word(snake.Dir) << " length " << snake.Length << '+'
+         << snake.Grow << " score " << snake.Score << " lives " << snake.Lives << " frags "
+         << snake.Frags << " ate " << snake.YellowEaten << snake.RedEaten << snake.BlueEaten
+         << snake.BlackEaten << snake.PowerEaten << " tnt " << snake.TNT << " safe "
+         << snake.ImmortalSecs;
+    return text.str();
   }
   std::vector<std::string> Feed() const {
     std::vector<std::string> lines;

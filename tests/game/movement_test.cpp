@@ -1,5 +1,7 @@
 #include "game/movement.h"
 
+#include <map>
+
 #include "field.h"
 #include "game/steps.h"
 
@@ -54,17 +56,13 @@ TEST(BodyUpdate, ACornerTravelsDownTheBody) {
 }
 
 TEST(BodyUpdate, EveryTurnHasItsCode) {
+  const std::map<char, Dir> letters = {
+      {'F', Dir::kForw}, {'B', Dir::kBack}, {'L', Dir::kLeft}, {'R', Dir::kRight}};
   for (const std::string code : {"FL", "FR", "BL", "BR", "LF", "LB", "RF", "RB"}) {
-    const auto initial = [](char letter) {
-      return letter == 'F'   ? Dir::kForw
-             : letter == 'B' ? Dir::kBack
-             : letter == 'L' ? Dir::kLeft
-                             : Dir::kRight;
-    };
     Field field;
     field.Put(1, {200, 200});
-    CellsAfter(field, initial(code[0]));
-    EXPECT_EQ(CellsAfter(field, initial(code[1])).at(1), code);
+    CellsAfter(field, letters.at(code[0]));
+    EXPECT_EQ(CellsAfter(field, letters.at(code[1])).at(1), code);
   }
 }
 
