@@ -18,15 +18,17 @@ SHADOW = 7  # how far the rim's shadow reaches into the field
 
 BRICK, STONE, TIMBER, SNOW, STEEL = range(5)
 
-# name: (floor scene or None for the drawn meadow, rim, whether an open one is made too)
+# name: (floor scene, or None for the meadow that is drawn; rim)
 FIELDS = {
-    "bkg_standart": ("flagstones", BRICK, False),
-    "bkg_stone": ("cobbles", STONE, False),
-    "bkg_sand": ("sand", TIMBER, True),
-    "bkg_grass": (None, TIMBER, True),
-    "bkg_ice": ("ice", SNOW, True),
-    "bkg_night": ("night", STONE, True),
-    "bkg_metal": ("metal", STEEL, False),
+    "bkg_standart": ("flagstones", BRICK),
+    "bkg_stone": ("cobbles", STONE),
+    "bkg_sand": ("sand", TIMBER),
+    "bkg_grass": (None, TIMBER),
+    "bkg_ice": ("ice", SNOW),
+    "bkg_night": ("night", STONE),
+    "bkg_metal": ("metal", STEEL),
+    "bkg_marble": ("marble", STONE),
+    "bkg_lagoon": ("lagoon", TIMBER),
 }
 
 
@@ -59,19 +61,16 @@ def _closed(floor, frame):
 
 
 def main():
-    rims = sorted({rim for _, rim, _ in FIELDS.values()})
-    scenes = [floor for floor, _, _ in FIELDS.values() if floor]
+    rims = sorted({rim for _, rim in FIELDS.values()})
+    scenes = [floor for floor, _ in FIELDS.values() if floor]
     outputs = render.render_all(
         [_field(HERE / f"{scene}.pov") for scene in scenes] + [_frame(rim) for rim in rims]
     )
     floors = {s: reduce.load_rgba(o[0])[..., :3] for s, o in zip(scenes, outputs)}
     frames = {r: reduce.load_rgba(o[0]) for r, o in zip(rims, outputs[len(scenes) :])}
-    for name, (scene, rim, has_open) in FIELDS.items():
+    for name, (scene, rim) in FIELDS.items():
         floor = floors[scene] if scene else grass.draw()
-        pictures = {name: _closed(floor, frames[rim])}
-        if has_open:
-            pictures[f"{name}_open"] = floor
-        for file, picture in pictures.items():
+        for file, picture in ((name, _closed(floor, frames[rim])), (f"{name}_open", floor)):
             reduce.save(np.rint(picture * 255).astype(np.uint8), render.GFX / f"{file}.png")
 
 

@@ -27,17 +27,17 @@ ItemStage(16, 24, 14)
 union {
   merge {
     BentBody(13, 34, Flesh, 30)
-    pigment { rgb <0.86, 0.015, 0.015> }
-    finish { ambient 0.2 diffuse 0.75 specular 0.9 roughness 0.02 reflection { 0.02, 0.14 } }
+    pigment { rgb <1.0, 0.030, 0.018> }
+    finish { ambient 0.24 diffuse 0.80 specular 1.7 roughness 0.035 reflection { 0.02, 0.16 } }
     translate -2 * y
   }
   merge {
     #for (I, 0, 4)
-      sphere { 0, 1 scale <2.0, 1.1, 2.9> translate <0, 0, 2.0> rotate x * -14 rotate y * 72 * I }
+      sphere { 0, 1 scale <2.1, 1.2, 3.1> translate <0, 0, 2.1> rotate x * -14 rotate y * 72 * I }
     #end
     sphere { 0, 2.3 scale <1, 0.62, 1> }
     union { BentBody(-6, 26, Stalk, 8) rotate z * -14 translate <0, 2.6, 0> }
-    pigment { rgb <0.13, 0.52, 0.05> }
+    pigment { rgb <0.34, 0.86, 0.12> }
     finish { ambient 0.22 diffuse 0.75 specular 0.25 roughness 0.06 }
     rotate z * -26
     translate <2.1, 5.6, 0>

@@ -13,7 +13,7 @@ TopDownLights(1.25)
 
 // Four tints, used by place along the run so that cells repeat without a seam.
 #declare Tints = array[4] {
-  rgb <0.46, 0.085, 0.035>, rgb <0.36, 0.060, 0.028>, rgb <0.53, 0.125, 0.050>, rgb <0.41, 0.070, 0.040>
+  rgb <0.56, 0.115, 0.045>, rgb <0.44, 0.078, 0.034>, rgb <0.63, 0.165, 0.066>, rgb <0.49, 0.092, 0.048>
 }
 
 #macro BrickTexture(Index, Corner)
@@ -34,7 +34,7 @@ TopDownLights(1.25)
 #end
 
 #declare Mortar = texture {
-  pigment { rgb <0.30, 0.22, 0.165> }
+  pigment { rgb <0.52, 0.42, 0.32> }
   normal { bumps 0.2 scale 0.7 }
   finish { ambient 0.15 diffuse 0.6 }
 }
