@@ -18,7 +18,7 @@ struct Bitmap {
 
 /// Decodes an uncompressed Windows bitmap of 1, 4, 8, 24 or 32 bits a pixel, stored from the bottom
 /// up or from the top down. Nothing when the bytes are no such bitmap, end too early, or ask for
-/// more than 4096 pixels a side or 16 million in all.
+/// more than 4096 pixels a side or 4 million in all.
 std::optional<Bitmap> DecodeBmp(std::span<const std::uint8_t> file);
 
 /// The bitmap in another size, by nearest neighbour.

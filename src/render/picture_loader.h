@@ -40,7 +40,7 @@ class PictureLoader {
  private:
   Picture Load(const std::string& path, std::optional<PictureSize> size, KeyMode key);
   void TellMissing(const std::string& path, bool modelPicture);
-  void Count();
+  void ReportProgress();
 
   State& state_;
   const Files& files_;

@@ -10,6 +10,7 @@
 
 namespace coilrun {
 
+/// The last slot is never used: needing it flushes the store.
 inline constexpr int kPicBuffers = 1024;
 
 /// A picture that is drawn by name again and again. Remembers its slot for as long as the store
@@ -31,9 +32,8 @@ class PictureStore {
  public:
   PictureStore(State& state, PictureLoader& loader);
 
-  /// The picture with this name below the gfx folder, loaded if it must be. Unset when it cannot
-  /// be loaded, which one console line tells. Valid until the next load or clear.
-  const Picture& Fetch(std::string_view name, KeyMode key, bool modelPicture = false);
+  /// The picture, loaded if it must be. Unset when it cannot be loaded, which one console line
+  /// tells. Valid until the store is cleared.
   const Picture& Fetch(NamedPicture& picture);
 
   /// True when the picture is in the store or can be loaded; one that could not be is tried again.
@@ -59,14 +59,15 @@ class PictureStore {
 
   PicBuffer& Slot(int number) { return slots_[static_cast<std::size_t>(number - 1)]; }
   const PicBuffer& Slot(int number) const { return slots_[static_cast<std::size_t>(number - 1)]; }
-  int SlotFor(std::string_view name, KeyMode key, bool modelPicture);
-  int SnLoadPic(const std::string& path, KeyMode key, bool modelPicture);
+  int SlotFor(const std::string& path, KeyMode key);
+  int SnLoadPic(const std::string& path, KeyMode key);
   int FindFreePicBuffer();
-  void LoadInto(int slot, KeyMode key, bool modelPicture);
+  void LoadInto(int slot, KeyMode key);
 
   State& state_;
   PictureLoader& loader_;
-  std::vector<PicBuffer> slots_;  ///< those in use; slots fill in order and are freed together
+  std::vector<PicBuffer> slots_;
+  int used_ = 0;  ///< slots fill in order and are freed together
   std::unordered_map<std::string, int, PathHash, std::equal_to<>> slotOf_;
   int generation_ = 1;
 };

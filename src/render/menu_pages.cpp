@@ -1,0 +1,158 @@
+#include "render/menu_pages.h"
+
+#include <array>
+#include <string_view>
+#include <utility>
+
+#include "model/numbers.h"
+#include "render/options_lines.h"
+
+namespace coilrun {
+namespace {
+
+constexpr Color kWhite{250, 250, 250};
+constexpr Color kDimmed{150, 150, 150};
+constexpr Color kCursor{250, 250, 31};
+constexpr int kStatusY = 459;
+constexpr int kVersionX = 580;
+constexpr int kTickerY = 437;
+
+struct Button {
+  Standard normal;
+  Standard lit;
+  int y;
+};
+constexpr int kButtonX = 290;
+constexpr std::array<Button, 4> kButtons = {{{Standard::kNewGame, Standard::kNewGameLit, 210},
+                                             {Standard::kOptions, Standard::kOptionsLit, 230},
+                                             {Standard::kHiScore, Standard::kHiScoreLit, 250},
+                                             {Standard::kExit, Standard::kExitLit, 290}}};
+
+struct Heading {
+  std::string_view text;
+  Point at;
+  int beforeLine;
+};
+constexpr std::array<Heading, 5> kHeadings = {{{"Speed Settings", {50, 200}, 1},
+                                               {"Game (Speed) Mutators", {50, 285}, 4},
+                                               {"Game Options", {50, 370}, 7},
+                                               {"GFX:", {250, 200}, 9},
+                                               {"Sound:", {250, 240}, 10}}};
+constexpr int kFirstMutator = 4;
+constexpr int kLastMutator = 6;
+
+constexpr std::array<std::string_view, kHiScores> kPlaces = {
+    " 1st: ", " 2nd: ", " 3rd: ", " 4th: ", " 5th: ",
+    " 6th: ", " 7th: ", " 8th: ", " 9th: ", "10th: "};
+
+FontStyle MenuFont(const char* face) {
+  return {face, 10, false};
+}
+
+}  // namespace
+
+MenuPages::MenuPages(const State& state, Canvas& canvas, const StandardPictures& standard,
+                     const ModelPictures& models, ItemPictures& items, TextPainter& text,
+                     std::string version)
+    : state_(state),
+      canvas_(canvas),
+      standard_(standard),
+      models_(models),
+      items_(items),
+      text_(text),
+      version_(std::move(version)) {}
+
+void MenuPages::DrawMainPage() {
+  canvas_.DrawWhole(standard_(Standard::kMenu));
+  for (std::size_t i = 0; i < kButtons.size(); ++i) {
+    const Button& button = kButtons[i];
+    DrawButton(button.normal, button.y);
+    if (!state_.menus.EntryLit(static_cast<int>(i) + 1)) continue;
+    DrawButton(button.lit, button.y);
+    items_.Draw(canvas_.Back(), items_.Frame(ItemKind::kYellow, state_.timers.AnimFrame), 285,
+                button.y + 5);
+  }
+  DrawStatus(state_.menus.StatusText);
+}
+
+void MenuPages::DrawTicker() {
+  text_.SetFont(MenuFont("Courier New"));
+  text_.SetColor({160, 160, 160});
+  text_.DrawSystemText("Credits " + state_.menus.CreditsTicker, 5, kTickerY);
+  text_.SetColor({190, 220, 190});
+  text_.DrawSystemText("Credits ", 5, kTickerY);
+}
+
+void MenuPages::DrawOptionsLines() {
+  canvas_.DrawWhole(standard_(Standard::kMenuOptions));
+  text_.SetFont(MenuFont("Arial"));
+  for (int line = 1; line <= kOptionsLines; ++line) {
+    const bool mutator = line >= kFirstMutator && line <= kLastMutator;
+    const bool dimmed = mutator && IsMultiplayer(state_.mode.GameMode);
+    text_.SetColor(dimmed ? kDimmed : kWhite);
+    for (const Heading& heading : kHeadings) {
+      if (heading.beforeLine != line) continue;
+      text_.DrawSystemText(heading.text, heading.at.x, heading.at.y);
+    }
+    const Point at = OptionsLineAt(line);
+    text_.DrawSystemText(OptionsLineText(state_, line), at.x, at.y);
+  }
+  DrawModelPreview();
+}
+
+void MenuPages::DrawOptionsCursorLine() {
+  const int line = state_.menus.OptionsCursor;
+  if (line < 1 || line > kOptionsLines) return;
+  text_.SetFont(MenuFont("Arial"));
+  text_.SetColor(kCursor);
+  const Point at = OptionsLineAt(line);
+  text_.DrawSystemText(OptionsLineText(state_, line), at.x, at.y);
+  if (line == kOptionsLines) DrawModelPreview();
+}
+
+void MenuPages::DrawOptionsFooter() {
+  DrawStatus(state_.menus.StatusText);
+}
+
+void MenuPages::DrawHighScorePage() {
+  canvas_.DrawWhole(standard_(Standard::kMenuHiScore));
+  text_.SetFont(MenuFont("Courier New"));
+  text_.SetColor({150, 170, 160});
+  for (int place = 1; place <= kHiScores; ++place) {
+    const HiScoreEntry& entry = state_.HiScore(place);
+    const int y = 200 + 20 * place;
+    const std::string label{kPlaces[static_cast<std::size_t>(place - 1)]};
+    text_.DrawSystemText(label + entry.Name, 310, y);
+    text_.DrawSystemText(NumberText(entry.Score) + " Pts", 490, y);
+  }
+  const std::string& status = state_.menus.StatusText;
+  DrawStatus(status.empty() ? "Coilrun 'The Hall Of Fame' (High Scores)" : status);
+  if (state_.mode.Cheated) text_.DrawSystemText("x: " + state_.mode.CheatLine, 5, 440);
+}
+
+void MenuPages::DrawStatus(std::string_view status) {
+  text_.SetFont(MenuFont("Arial"));
+  text_.SetColor(kWhite);
+  text_.DrawSystemText(status, 5, kStatusY);
+  text_.DrawSystemText("v. " + version_, kVersionX, kStatusY);
+}
+
+void MenuPages::DrawModelPreview() {
+  constexpr std::array kPieces = {ModelPiece::kHeadLeft, ModelPiece::kLeft, ModelPiece::kTailLeft};
+  int x = 300;
+  for (const ModelPiece piece : kPieces) {
+    canvas_.Back().Blit(models_(state_.Snakes(1).Model, piece), x, 390);
+    x += kCell;
+  }
+}
+
+void MenuPages::DrawButton(Standard picture, int y) {
+  canvas_.Back().Blit(standard_(picture), kButtonX, y);
+}
+
+Color FadeColor(int step) {
+  const auto half = static_cast<std::uint8_t>(RoundToInt(step / 2.0));
+  return {half, static_cast<std::uint8_t>(2 * step), half};
+}
+
+}  // namespace coilrun

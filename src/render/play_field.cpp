@@ -1,0 +1,120 @@
+#include "render/play_field.h"
+
+#include <algorithm>
+#include <array>
+
+#include "render/snake_pieces.h"
+
+namespace coilrun {
+namespace {
+
+constexpr Rect kCellPart{0, 0, kCell, kCell};
+
+/// By wall kind; runs show the picture that is named after the other direction.
+constexpr std::array<Standard, 8> kWallPictures = {
+    Standard::kBrik,   Standard::kBrikH,  Standard::kBrikV,  Standard::kBrikVL,
+    Standard::kBrikVR, Standard::kBrikHT, Standard::kBrikHB, Standard::kBrik};
+
+int SnakesInPlay(const State& state) {
+  return std::clamp<int>(state.mode.NumSnakes, 1, kMaxSnakes);
+}
+
+int Frame(const State& state) {
+  return std::clamp<int>(state.timers.AnimFrame, 1, kAnimationFrames);
+}
+
+}  // namespace
+
+PlayField::PlayField(const State& state, Canvas& canvas, const StandardPictures& standard,
+                     const ModelPictures& models, ItemPictures& items)
+    : state_(state), canvas_(canvas), standard_(standard), models_(models), items_(items) {}
+
+void PlayField::DrawBackground() {
+  canvas_.DrawWhole(standard_(Standard::kBackground));
+}
+
+void PlayField::DrawStartMarkers() {
+  for (int s = 1; s <= SnakesInPlay(state_); ++s) {
+    const SnakeRec& snake = state_.Snakes(s);
+    if (snake.Dir != Dir::kNone && !state_.shell.WaitingForStart) continue;
+    DrawPiece(ModelPiece::kStart, snake.Model, snake.StartX, snake.StartY);
+  }
+}
+
+void PlayField::DrawItems(ItemKind kind, bool forceFlat) {
+  const ItemList& items = state_.Items(kind);
+  const bool animated = state_.settings.AnimatedItems && !forceFlat;
+  ItemPicture& picture = animated ? items_.Frame(kind, Frame(state_)) : items_.Flat(kind);
+  const auto* const end = items.slots.begin() + items.Live();
+  for (const auto* item = items.slots.begin(); item != end; ++item) {
+    if (item->Present) items_.Draw(canvas_.Back(), picture, item->X, item->Y);
+  }
+}
+
+void PlayField::DrawAllItems(bool tntFirst) {
+  for (const ItemKind kind :
+       {ItemKind::kYellow, ItemKind::kRed, ItemKind::kBlue, ItemKind::kBlack}) {
+    DrawItems(kind);
+  }
+  DrawItems(tntFirst ? ItemKind::kTnt : ItemKind::kPower);
+  DrawItems(tntFirst ? ItemKind::kPower : ItemKind::kTnt);
+}
+
+void PlayField::DrawWalls() {
+  for (int w = 1; w <= state_.numWalls; ++w) {
+    const WallRec& wall = state_.Walls(w);
+    if (!wall.Present || wall.Kind == WallKind::kNone) continue;
+    const Standard picture = kWallPictures[static_cast<std::size_t>(wall.Kind)];
+    canvas_.Back().Blit(standard_(picture), wall.X, wall.Y);
+  }
+}
+
+void PlayField::DrawUserItems() {
+  for (int u = 1; u <= state_.numUserItems; ++u) {
+    const UserItemRec& item = state_.UserItems(u);
+    if (!item.Present) continue;
+    NamedPicture* const picture = items_.UserItem(item, Frame(state_));
+    if (picture == nullptr) continue;
+    canvas_.Back().Blit(items_.Fetch(*picture), kCellPart, item.X, item.Y, true);
+  }
+}
+
+void PlayField::DrawSnake(int snake) {
+  DrawSnakeHead(snake);
+  for (int seg = state_.Snakes(snake).Length - 1; seg >= 1; --seg) DrawSnakeSeg(seg, snake);
+  DrawSnakeTail(snake);
+}
+
+void PlayField::DrawSnakeHead(int snake) {
+  const SnakeRec& drawn = state_.Snakes(snake);
+  DrawPiece(HeadPiece(drawn.Dir), drawn.Model, drawn.X, drawn.Y);
+}
+
+void PlayField::DrawSnakeSeg(int seg, int snake) {
+  const SnakeRec& drawn = state_.Snakes(snake);
+  if (!drawn.Seg.Holds(seg)) return;
+  const SegRec& cell = drawn.Seg(seg);
+  DrawPiece(BodyPiece(cell.Dir, PackOf(drawn)), drawn.Model, cell.X, cell.Y);
+}
+
+void PlayField::DrawSnakeTail(int snake) {
+  const SnakeRec& drawn = state_.Snakes(snake);
+  DrawPiece(TailPiece(drawn.Tail.Dir, PackOf(drawn)), drawn.Model, drawn.Tail.X, drawn.Tail.Y);
+}
+
+void PlayField::DrawSnakes(const Table<bool, kMaxSnakes>& shown) {
+  for (int s = 1; s <= SnakesInPlay(state_); ++s) {
+    if (shown(s)) DrawSnake(s);
+  }
+}
+
+void PlayField::DrawPiece(std::optional<ModelPiece> piece, int model, int x, int y) {
+  if (piece) canvas_.Back().Blit(models_(model, *piece), x, y);
+}
+
+const ModelPack& PlayField::PackOf(const SnakeRec& snake) const {
+  const int model = std::clamp<int>(snake.Model, 0, state_.ModelPacks.kLast);
+  return state_.ModelPacks(model);
+}
+
+}  // namespace coilrun
