@@ -110,13 +110,15 @@ class Clown:
 
 class Skeleton:
     folder, name = "skeleton", "Rattlebones"
-    bone, shade = rgb(240, 232, 205), rgb(150, 130, 100)
+    contour, curls = 1.0, False
+    bone, shade, dark = rgb(246, 238, 212), rgb(150, 130, 100), rgb(58, 46, 36)
     SPINE = 2.6
 
     def vertebra(self, canvas, path, s, reach):
         for side in (-1, 1):
             places = ((s, 0), (s - 0.02, side * reach * 0.6), (s - 0.1, side * reach))
-            canvas.stroke(path, places, (1.7, 1.25), 1.0, self.bone, 0.2)
+            canvas.stroke(path, places, (2.3, 1.95), -3.0, self.dark, 0.0)
+            canvas.stroke(path, places, (1.6, 1.2), 1.0, self.bone, 0.2)
         canvas.ball(path, s, 0, 1.5, (2.2, 3.7, 3.4), self.bone, 0.35)
 
     def spine(self, canvas, path, first=0.0):

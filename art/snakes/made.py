@@ -31,6 +31,7 @@ class Candy:
 
 class Robot:
     folder, name = "robot", "Robo Crawler"
+    curls = False
     steel, dark, lamp = rgb(168, 186, 204), rgb(44, 50, 60), rgb(60, 240, 255)
     JOINT = 4.6
 
@@ -83,7 +84,7 @@ class Robot:
 
 class Rope:
     folder, name = "rope", "Old Rope"
-    hemp, dark = rgb(222, 184, 118), rgb(96, 62, 26)
+    hemp, dark = rgb(228, 186, 112), rgb(74, 44, 16)
 
     def skin(self, s, v):
         twist = (3 * s + 0.42 * np.arcsin(np.clip(v, -1, 1))) % 1
@@ -118,6 +119,7 @@ class Rope:
 
 class Train:
     folder, name = "train", "Banana Express"
+    curls = False
     red, dark, gold = rgb(196, 30, 34), rgb(52, 52, 60), rgb(255, 212, 40)
     COUPLER = 2.6
 

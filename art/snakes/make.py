@@ -12,6 +12,7 @@ from tube import BACK, CELL, FORW, LEFT, RIGHT, Canvas, Path, Ring
 
 TARGET = ROOT / "assets" / "models"
 AUTHOR = "Coilrun"
+CONTOUR = 0.7  # what is left of the brightness at the edge of a snake
 HEADS = {"head_forw": FORW, "head_back": BACK, "head_left": LEFT, "head_right": RIGHT}
 STRAIGHT = {"Snake_forw": FORW, "Snake_back": BACK, "Snake_left": LEFT, "Snake_right": RIGHT}
 TAILS = {"tail_forw": FORW, "tail_back": BACK, "tail_left": LEFT, "tail_right": RIGHT}
@@ -26,16 +27,19 @@ TAIL_CORNERS = {"Tail_b_l": (FORW, LEFT), "Tail_b_r": (LEFT, BACK), "Tail_f_l": 
 def draw(shape, path):
     canvas = Canvas()
     shape(canvas, path)
-    return canvas.picture()
+    return canvas.picture(getattr(shape.__self__, "contour", CONTOUR))
 
 
 def start_marker(model):
-    """The snake asleep on its start cell: a small coil with the head on top."""
+    """The snake asleep on its start cell: a small coil with the head on top, or the head alone."""
     canvas = Canvas()
+    if not getattr(model, "curls", True):
+        model.head(canvas, Path(BACK, BACK, joined=(False, False), scale=0.92))
+        return canvas.picture(CONTOUR)
     model.body(canvas, Ring(15.2, 5, scale=0.42))
     canvas.z -= 8
     model.head(canvas, Path(BACK, BACK, joined=(False, False), centre=(CELL / 2, CELL / 2 + 0.7), scale=0.6))
-    return canvas.picture()
+    return canvas.picture(CONTOUR)
 
 
 def pictures(model):

@@ -78,8 +78,6 @@ class Frost:
         canvas.tube(path, even(BODY), self.skin, power=1.45, height=1.25)
 
     def head(self, canvas, path):
-        for side in (-1, 1):
-            canvas.stroke(path, ((0.34, side * 6.0), (0.1, side * 9.0)), (1.5, 0.5), 5.0, self.snow, 0.8)
         canvas.stroke(path, ((0.34, 0), (0.08, 0)), (1.4, 0.6), 8.0, self.snow, 0.8)
 
         def face(s, v):
@@ -88,7 +86,7 @@ class Frost:
             return {"colour": colour, "gloss": 0.9}
 
         canvas.tube(path, snout((0, BODY), (0.1, BODY), (0.45, 8.8), (0.97, 4.6)), face, 1.6, 1.1)
-        eyes(canvas, path, 0.54, 4.7, 2.9, 5.5, white=rgb(255, 236, 110))
+        eyes(canvas, path, 0.54, 4.6, 3.3, 5.5, white=rgb(255, 240, 130))
 
     def tail(self, canvas, path):
         canvas.tube(path, taper((0.03, 0.6), (0.88, BODY), (1.0, BODY)), self.skin, 1.45, 1.25)

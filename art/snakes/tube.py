@@ -258,9 +258,12 @@ class Canvas:
         alpha = (self.z > -1e8).astype(float)
         return np.concatenate([reduce.to_srgb(colour), alpha[..., None]], axis=-1)
 
-    def picture(self):
-        """The finished 20 x 20 picture, keyed black."""
+    def picture(self, contour):
+        """The finished 20 x 20 picture, keyed black, its edge pixels darkened by the factor."""
         srgb, coverage = reduce.block_average(self.lit(), FINE)
         mask = reduce.opaque_mask(coverage)
+        around = np.pad(mask, 1, mode="edge")
+        inner = around[:-2, 1:-1] & around[2:, 1:-1] & around[1:-1, :-2] & around[1:-1, 2:]
+        srgb = np.where((mask & ~inner)[..., None], srgb * contour, srgb)
         whole = reduce.keyed(reduce.sharpen(srgb, mask), mask, reduce.BLACK, reduce.BRIGHT_FIELD)
         return whole[MARGIN:-MARGIN, MARGIN:-MARGIN]
