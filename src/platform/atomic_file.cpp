@@ -32,9 +32,10 @@ FileHandle OpenTemporary(const fs::path& temporary) {
   }
 }
 
-bool SyncFolder(const fs::path& folder) {
+/// Makes a new name last. Not all file systems can; there is nothing to do about it.
+void SyncFolder(const fs::path& folder) {
   const FileHandle handle(folder, O_RDONLY | O_DIRECTORY);
-  return handle.IsOpen() && fsync(handle.Descriptor()) == 0;
+  if (handle.IsOpen()) fsync(handle.Descriptor());
 }
 
 std::span<const std::uint8_t> AsBytes(std::string_view text) {
@@ -54,10 +55,12 @@ bool ReplaceFile(const fs::path& file, std::string_view contents) {
   if (!handle.IsOpen()) return false;
   const bool whole = ftruncate(handle.Descriptor(), 0) == 0 && handle.WriteAll(AsBytes(contents)) &&
                      fsync(handle.Descriptor()) == 0;
-  if (whole && rename(temporary.c_str(), target.c_str()) == 0)
-    return SyncFolder(target.parent_path());
-  unlink(temporary.c_str());
-  return false;
+  if (!whole || rename(temporary.c_str(), target.c_str()) != 0) {
+    unlink(temporary.c_str());
+    return false;
+  }
+  SyncFolder(target.parent_path());
+  return true;
 }
 
 }  // namespace coilrun

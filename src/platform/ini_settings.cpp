@@ -99,6 +99,7 @@ std::optional<std::string> IniSettings::Get(std::string_view section, std::strin
 }
 
 void IniSettings::Set(std::string_view section, std::string_view key, std::string_view value) {
+  if (store_->Get(section, key) == std::string(value)) return;
   store_->ini.SetValue(ToUtf8(section).c_str(), ToUtf8(key).c_str(),
                        ToUtf8(QuoteIniValue(value)).c_str());
 }

@@ -75,7 +75,7 @@ std::optional<fs::path> FindIn(const fs::path& folder, const std::string& name) 
 
 bool CanWriteInto(const fs::path& folder) {
   const fs::path probe = folder / (".coilrun-probe-" + std::to_string(getpid()));
-  const FileHandle file(probe, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW);
+  const FileHandle file(probe, O_WRONLY | O_CREAT | O_NOFOLLOW);
   if (!file.IsOpen()) return false;
   unlink(probe.c_str());
   return true;
