@@ -15,7 +15,7 @@ namespace {
 
 using std::string_view;
 
-constexpr std::size_t kMaxTextSize = 4 * 1024 * 1024;
+constexpr std::size_t kMaxTextSize = std::size_t{4} * 1024 * 1024;
 constexpr std::size_t kMaxSteps = 500'000;
 constexpr std::int64_t kMaxMillis = 1'000'000'000'000;
 constexpr std::int64_t kMicrosInAMilli = 1000;
@@ -72,10 +72,10 @@ class Reader {
     line_ = number;
     string_view rest = WithoutBlanksInFront(WithoutComment(line));
     if (rest.empty()) return std::nullopt;
-    if (const Problem problem = ReadTime(TakeWord(rest))) return problem;
+    if (Problem problem = ReadTime(TakeWord(rest))) return problem;
     rest = WithoutBlanksInFront(rest);
     const string_view command = TakeWord(rest);
-    if (const Problem problem = ReadCommand(command, rest)) return problem;
+    if (Problem problem = ReadCommand(command, rest)) return problem;
     script_.lastAt = now_;
     if (script_.steps.size() + implied_.size() + script_.answers.size() > kMaxSteps) {
       return "the script has more than " + std::to_string(kMaxSteps) + " steps";
@@ -130,7 +130,7 @@ class Reader {
     return std::nullopt;
   }
   Problem ReadTap(string_view rest) {
-    if (const Problem problem = ReadDown(rest)) return problem;
+    if (Problem problem = ReadDown(rest)) return problem;
     Imply(now_ + kTapLength, Verb::kKeyUp, script_.steps.back().code);
     return std::nullopt;
   }
@@ -227,7 +227,7 @@ ScriptOrError ParseScript(std::string_view text, std::string_view file) {
   Reader reader(file);
   for (int line = 1; !text.empty(); ++line) {
     const std::size_t end = std::min(text.find('\n'), text.size());
-    if (const Problem problem = reader.ReadLine(text.substr(0, end), line)) {
+    if (Problem problem = reader.ReadLine(text.substr(0, end), line)) {
       return {{}, name + ':' + std::to_string(line) + ": " + *problem};
     }
     text.remove_prefix(std::min(end + 1, text.size()));

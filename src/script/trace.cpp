@@ -126,7 +126,7 @@ class JsonLine {
 }  // namespace
 
 std::string TraceLine(const State& state, const TraceMoment& moment) {
-  constexpr std::size_t kUsualLength = 32 * 1024;
+  constexpr std::size_t kUsualLength = std::size_t{32} * 1024;
   std::string json;
   json.reserve(kUsualLength);
   JsonLine line(json);

@@ -145,7 +145,7 @@ TEST(Architecture, TheWalkSeesEveryKindOfViolation) {
     std::string path;
     std::string line;
   };
-  const Case wrong[] = {
+  const std::vector<Case> wrong = {
       {"src/model/state.h", "#include \"game/movement.h\""},
       {"src/ports/clock.h", " # include  \"model/state.h\""},
       {"src/game/movement.cpp", "#include \"render/bitmap.h\""},
@@ -166,7 +166,7 @@ TEST(Architecture, TheWalkSeesEveryKindOfViolation) {
   for (const Case& each : wrong) {
     EXPECT_THAT(Violations(each.path, "\n" + each.line), SizeIs(testing::Ge(1U))) << each.line;
   }
-  const Case fine[] = {
+  const std::vector<Case> fine = {
       {"src/game/movement.cpp", "#include \"model/state.h\""},
       {"src/game/movement.cpp", "#include \"game/movement.h\""},
       {"src/game/movement.cpp", "// never std::chrono, never SDL_Delay"},

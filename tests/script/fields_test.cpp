@@ -112,7 +112,7 @@ TEST(Fields, RefusesWhatDoesNotFitAndLeavesTheStateAlone) {
     std::string_view name;
     std::string_view value;
   };
-  const Refused cases[] = {
+  const std::vector<Refused> cases = {
       {"", ""},
       {".", ""},
       {"Nonsense", "1"},
@@ -243,7 +243,8 @@ TEST(Trace, TablesHaveTheirFullOrLiveLength) {
   EXPECT_EQ(line["Snakes"][0]["Seg"].size(), 4U);
   EXPECT_EQ(line["Snakes"][1]["Seg"].size(), 2U);
   EXPECT_EQ(line["Timers"]["iWait"].size(), 16U);
-  for (const char* const list : {"Yellow", "Power", "Walls", "SpawnPoints", "ModelPacks"}) {
+  const std::vector<std::string> lists = {"Yellow", "Power", "Walls", "SpawnPoints", "ModelPacks"};
+  for (const std::string& list : lists) {
     EXPECT_EQ(line[list].size(), 2U) << list;
   }
 }
@@ -274,12 +275,17 @@ TEST(Trace, WritesNumbersWithoutNeedlessFractionsAndTextsInUtf8) {
   state.keys.LastKey = 28;
   const std::string text = TraceLine(state, {1'016'667, 2.5});
   EXPECT_TRUE(text.starts_with("{\"ms\":1016.667,\"flips\":0,\"Running\":false,")) << text;
-  for (const char* const piece :
-       {"\"SpeedRate\":0.5,", "\"Timeout\":120,", "\"LastKey\":28,", "\"Position\":2.5}",
-        "\"StatusText\":\"\xE2\x82\xAC \\\"a\\\\b\\\"\\r\\n\\u0009\\u0001\xC3\xBC\"",
-        "{\"Text\":\"1\",\"X\":2,\"Y\":3,\"Font\":4}",
-        "{\"Text\":\"Name\",\"X\":-5,\"Y\":6,\"Font\":\"Balloon\"}",
-        "\"Sounds\":[{\"Path\":\".\\\\snd\\\\eat.wav\",\"Snake\":1}]"}) {
+  const std::vector<std::string> pieces = {
+      R"("SpeedRate":0.5,)",
+      R"("Timeout":120,)",
+      R"("LastKey":28,)",
+      R"("Position":2.5})",
+      R"("StatusText":"€ \"a\\b\"\r\n\u0009\u0001ü")",
+      R"({"Text":"1","X":2,"Y":3,"Font":4})",
+      R"({"Text":"Name","X":-5,"Y":6,"Font":"Balloon"})",
+      R"("Sounds":[{"Path":".\\snd\\eat.wav","Snake":1}])",
+  };
+  for (const std::string& piece : pieces) {
     EXPECT_NE(text.find(piece), text.npos) << piece;
   }
   EXPECT_EQ(TraceLine(state, {2'000'000, 0}).substr(0, 11), "{\"ms\":2000,");

@@ -1,5 +1,7 @@
 #include "script/script_player.h"
 
+#include <vector>
+
 #include <gmock/gmock.h>
 
 #include "stage.h"
@@ -73,7 +75,7 @@ TEST(ScriptPlayer, TypesOneKeyEverySixtyMilliseconds) {
 TEST(ScriptPlayer, OnePollTakesOneChangeOfEachKey) {
   Stage stage("0 down 30\n0 down 28\n0 up 30\n0 down 30\n0 down 30\n");
   stage.YieldAt(0);
-  const bool expectedA[] = {true, false, true, true};
+  const std::vector<bool> expectedA = {true, false, true, true};
   for (const bool held : expectedA) {
     EXPECT_EQ(stage.Held(kA), held);
     EXPECT_EQ(stage.keys.at(kEnter), 1);

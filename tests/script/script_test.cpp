@@ -4,6 +4,7 @@
 #include <fstream>
 #include <iterator>
 #include <string>
+#include <vector>
 
 #include <gmock/gmock.h>
 
@@ -15,12 +16,11 @@ using ::testing::StartsWith;
 
 /// "MICROSECONDS verb code name=value" of every step, then of every answer.
 std::string Listing(const Script& script) {
-  static constexpr std::string_view kWords[] = {"down", "up",  "lost",  "gained", "state",
-                                                "shot", "set", "close", "end"};
+  static const std::vector<std::string> kWords = {"down", "up",  "lost",  "gained", "state",
+                                                  "shot", "set", "close", "end"};
   std::string list;
   for (const ScriptStep& step : script.steps) {
-    list +=
-        std::to_string(step.at) + ' ' + std::string(kWords[static_cast<std::size_t>(step.verb)]);
+    list += std::to_string(step.at) + ' ' + kWords.at(static_cast<std::size_t>(step.verb));
     if (step.code != 0) list += ' ' + std::to_string(step.code);
     if (!step.name.empty()) list += ' ' + step.name;
     if (step.verb == Verb::kSet) list += '=' + step.value;
@@ -38,7 +38,7 @@ struct GoodCase {
 };
 
 TEST(ParseScript, TakesEveryCommandApart) {
-  const GoodCase cases[] = {
+  const std::vector<GoodCase> cases = {
       {"", ""},
       {"# nothing\n\n   \r\n\t# more\r\n", ""},
       {"0 down 1\r\n5 up 255\r\n", "0 down 1\n5000 up 255\n"},
@@ -75,7 +75,7 @@ TEST(ParseScript, LastsUntilTheLastKeyOrAnswer) {
 }
 
 TEST(ParseScript, SaysWhereAndWhatIsWrong) {
-  const GoodCase cases[] = {
+  const std::vector<GoodCase> cases = {
       {"5 state\n4 state\n", "play.txt:2: the time is before"},
       {"\n\nstate\n", "play.txt:3: \"state\" is no time"},
       {"-1 state", "play.txt:1: \"-1\" is no time"},
