@@ -36,7 +36,7 @@ ItemStage(22, 21, 0)
 object {
   Medal
   rotate z * clock * 120
-  scale 0.93
+  scale 0.925
   rotate y * 27
   rotate z * -clock * 360
 }

@@ -20,14 +20,17 @@ ItemStage(16, 24, 20)
 
 // The word three times round the label, every letter upright on its own bit of the curve.
 #declare LabelRadius = Ring + StickRadius + 0.15;
+// Letters are drawn twice, a little apart, to be bold enough for this size.
 #macro Letter(Glyph, Angle)
-  text {
-    ttf "/usr/share/fonts/truetype/liberation2/LiberationSans-Bold.ttf", Glyph, 2, 0
-    translate <(Glyph = "N" ? -0.36 : -0.305), 0, 0>
-    scale <5.2, 6.4, 1>
-    translate <0, -3.75, -LabelRadius - 0.8>
-    rotate y * -Angle
-  }
+  #for (Side, -1, 1, 2)
+    text {
+      ttf "/usr/share/fonts/truetype/liberation2/LiberationSans-Bold.ttf", Glyph, 2, 0
+      translate <(Glyph = "N" ? -0.36 : -0.305), 0, 0>
+      scale <4.9, 6.4, 1>
+      translate <0.22 * Side, -3.75, -LabelRadius - 0.8>
+      rotate y * -Angle
+    }
+  #end
 #end
 #declare Words = union {
   #for (I, 0, 2)
