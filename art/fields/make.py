@@ -32,8 +32,8 @@ FIELDS = {
 }
 
 
-def _field(scene, **declare):
-    return render.Scene(scene, WIDTH, HEIGHT, declare, alpha=False, antialias=0.06)
+def _field(scene):
+    return render.Scene(scene, WIDTH, HEIGHT, alpha=False, antialias=0.06)
 
 
 def _frame(material):

@@ -5,7 +5,7 @@
 #declare R = seed(77);
 #declare Side = 40;
 
-#macro Glaze(Tone, Shade)
+#macro Glaze(Tone)
   texture {
     pigment {
       bozo turbulence 0.6 scale 30 translate 900 * rand(R)
@@ -27,7 +27,7 @@
 #macro Tile(X, Y)
   #local Tone = 0.94 + 0.26 * (rand(R) - 0.5);
   union {
-    object { Round_Box_Union(<0.7, 0.7, -4>, <Side - 0.7, Side - 0.7, 2.2>, 1.7) Glaze(Tone, 0) }
+    object { Round_Box_Union(<0.7, 0.7, -4>, <Side - 0.7, Side - 0.7, 2.2>, 1.7) Glaze(Tone) }
     #if (mod(X + 2 * Y + 60, 5) = 0)
       object {
         Star scale 11 translate <Side / 2, Side / 2, 2.4>
