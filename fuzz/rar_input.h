@@ -1,0 +1,89 @@
+#pragma once
+
+#include <algorithm>
+#include <cstdint>
+#include <span>
+
+#include "platform/rar/checksums.h"
+#include "platform/rar/entry_name.h"
+#include "platform/rar/rar4_container.h"
+#include "platform/rar/rar5_container.h"
+#include "platform/rar/rar_reader.h"
+#include "ports/byte_reader.h"
+
+namespace coilrun::fuzz {
+
+inline std::uint64_t Vint(ByteReader& reader) {
+  std::uint64_t value = 0;
+  for (unsigned shift = 0; shift < 63; shift += 7) {
+    const std::uint8_t byte = reader.U8();
+    value |= std::uint64_t{byte & 0x7FU} << shift;
+    if (byte < 0x80) break;
+  }
+  return value;
+}
+
+inline void PutNumber(Bytes& bytes, std::size_t at, std::uint32_t value, int size) {
+  for (int i = 0; i < size; ++i) bytes[at++] = static_cast<std::uint8_t>(value >> 8 * i);
+}
+
+/// Puts the checksums of plain headers right, so that changed ones are looked into.
+inline void RepairHeaders5(Bytes& bytes) {
+  for (std::size_t at = 8; at + 4 < bytes.size();) {
+    ByteReader reader(bytes);
+    reader.Seek(at + 4);
+    const std::uint64_t size = Vint(reader);
+    const std::size_t body = reader.Position();
+    if (!reader.Ok() || size > bytes.size() - body) return;
+    PutNumber(bytes, at, Crc32(std::span(bytes).subspan(at + 4, body + size - at - 4)), 4);
+    Vint(reader);
+    const std::uint64_t flags = Vint(reader);
+    if ((flags & 1) != 0) Vint(reader);
+    const std::uint64_t data = (flags & 2) != 0 ? Vint(reader) : 0;
+    if (!reader.Ok() || data > bytes.size() - body - size) return;
+    at = body + size + data;
+  }
+}
+
+inline void RepairHeaders4(Bytes& bytes) {
+  for (std::size_t at = 7; at + 11 < bytes.size();) {
+    ByteReader reader(bytes);
+    reader.Seek(at + 2);
+    const std::uint8_t type = reader.U8();
+    const bool withData = (reader.U16() & 0x8000) != 0 || type == 0x74 || type == 0x7A;
+    const std::size_t size = reader.U16();
+    const std::uint64_t data = withData ? reader.U32() : 0;
+    if (size < 7 || size > bytes.size() - at) return;
+    PutNumber(bytes, at, Crc32(std::span(bytes).subspan(at + 2, size - 2)), 2);
+    if (data > bytes.size() - at - size) return;
+    at += size + data;
+  }
+}
+
+inline bool KeepsItsPromises(const Bytes& bytes) {
+  constexpr std::uint64_t kSmall = 1 << 20;
+  RarReader reader(bytes, "sn80463");
+  for (std::size_t i = 0; i < reader.Entries().size(); ++i) {
+    const RarEntry& entry = reader.Entries()[i];
+    if (entry.size > kSmall) continue;
+    const RarContents contents = reader.Read(i);
+    if (!contents.Ok()) continue;
+    if (!NameProblem(entry.name).empty()) return false;
+    if (contents.bytes.size() != (entry.folder ? 0 : entry.size)) return false;
+    const bool plainSum = entry.packed.crc && !entry.packed.Encrypted() && !entry.folder;
+    if (plainSum && Crc32(contents.bytes) != *entry.packed.crc) return false;
+  }
+  return true;
+}
+
+/// Reads any bytes as an archive, as they are and with the header checksums put right. False when
+/// the reader gives what it should not.
+inline bool SurvivesAsArchive(std::span<const std::uint8_t> input) {
+  Bytes bytes(input.begin(), input.end());
+  if (!KeepsItsPromises(bytes)) return false;
+  if (IsRar5(bytes)) RepairHeaders5(bytes);
+  if (IsRar4(bytes)) RepairHeaders4(bytes);
+  return KeepsItsPromises(bytes);
+}
+
+}  // namespace coilrun::fuzz
