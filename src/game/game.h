@@ -22,8 +22,8 @@ inline int SnakesInPlay(const State& state) {
 
 /// Puts a head on the snake's start cell.
 inline void PutOnStart(SnakeRec& snake) {
-  snake.X = int{snake.StartX};
-  snake.Y = int{snake.StartY};
+  snake.X = snake.StartX;
+  snake.Y = snake.StartY;
 }
 
 /// The step timer of a snake, 1 to 16.
