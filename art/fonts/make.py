@@ -1,8 +1,9 @@
 #!/usr/bin/env python3
 """Draws the six bitmap font sheets of the game from free outline fonts.
 
-Three small sheets are hinted one-bit letters with a dark rim; three large ones are smooth letters with a colour
-gradient, a lit upper edge and a dark rim.  All are keyed with near black, so the rim is the darkest colour used.
+Three small sheets are hinted one-bit letters with a dark rim; three large ones are smooth letters
+with a colour gradient, a lit upper edge and a dark rim.  All are keyed with near black, so the rim
+is the darkest colour used.
 """
 import os
 import numpy as np
@@ -20,7 +21,12 @@ SCALE = 16
 
 def cell(column, row, width, height):
     """Left, top, right, bottom of a glyph; right and bottom are exclusive, halves round to even."""
-    return (round(column * width), round(row * height), round((column + 1) * width - 1), round((row + 1) * height))
+    return (
+        round(column * width),
+        round(row * height),
+        round((column + 1) * width - 1),
+        round((row + 1) * height),
+    )
 
 
 def block_mean(array, n):
@@ -56,11 +62,11 @@ def letter_dots(char, font, letters):
     ImageDraw.Draw(probe).text((24, 32), char, fill=1, font=font, anchor="ls")
     dots = np.array(probe)
     columns, rows = np.flatnonzero(dots.any(axis=0)), np.flatnonzero(dots.any(axis=1))
-    return dots[rows[0]:rows[-1] + 1, columns[0]:columns[-1] + 1], 31 - int(rows[0])
+    return dots[rows[0] : rows[-1] + 1, columns[0] : columns[-1] + 1], 31 - int(rows[0])
 
 
 def small_glyph(char, font, box, base, fills, letters):
-    """One-bit letter: a fill that changes a little downwards and a rim wherever the cell has room."""
+    """One-bit letter: a fill that changes a little downwards, a rim where the cell has room."""
     w, h = box[2] - box[0], box[3] - box[1]
     core, standing = letter_dots(char, font, letters)
     top = base - 1 - standing
@@ -70,12 +76,12 @@ def small_glyph(char, font, box, base, fills, letters):
     if top < 0 or top + core.shape[0] > h:
         raise SystemExit(f"{char!r} leaves its cell")
     mask = np.zeros((h, w), bool)
-    mask[top:top + core.shape[0], left:left + core.shape[1]] = core
+    mask[top : top + core.shape[0], left : left + core.shape[1]] = core
     framed = np.pad(mask, 1)
     rim = np.zeros_like(mask)
     for dy in range(3):
         for dx in range(3):
-            rim |= framed[dy:dy + h, dx:dx + w]
+            rim |= framed[dy : dy + h, dx : dx + w]
     out = np.zeros((h, w, 3), np.uint8)
     out[rim] = RIM
     upper, lower = (np.array(f, float) for f in fills)
@@ -110,7 +116,9 @@ def large_glyph(char, font, box, base, centre, widest, stops, weight, rim_radius
     body = block_mean(grown(solid, rim_radius * SCALE).astype(float), SCALE)
     mask = body >= 0.5
     ys = (np.arange(h) + 0.5 - stops["top"]) / (base - stops["top"])
-    fill = np.stack([np.interp(ys, stops["at"], [c[i] for c in stops["colours"]]) for i in range(3)], axis=1)
+    fill = np.stack(
+        [np.interp(ys, stops["at"], [c[i] for c in stops["colours"]]) for i in range(3)], axis=1
+    )
     fill = (fill / 255.0) ** 2.2
     lit = np.clip(cover - np.roll(cover, 1, axis=0), 0, 1)[..., None] * stops["light"]
     dark = np.clip(cover - np.roll(cover, -1, axis=0), 0, 1)[..., None] * stops["dark"]
@@ -137,34 +145,102 @@ def sheet(name, size, width, height, glyph):
 
 def small_sheet(name, width, height, file, pixels, base, fills, letters):
     font = ImageFont.truetype(file, pixels)
-    sheet(name, (499, 50), width, height, lambda char, box: small_glyph(char, font, box, base, fills, letters))
+    sheet(
+        name,
+        (499, 50),
+        width,
+        height,
+        lambda char, box: small_glyph(char, font, box, base, fills, letters),
+    )
 
 
-def large_sheet(name, size, width, height, file, pixels, base, centre, widest, stops, weight, rim=1.2):
+def large_sheet(
+    name, size, width, height, file, pixels, base, centre, widest, stops, weight, rim=1.2
+):
     font = ImageFont.truetype(file, pixels * SCALE)
-    sheet(name, size, width, height,
-          lambda char, box: large_glyph(char, font, box, base, centre, widest, stops, weight, rim))
+    sheet(
+        name,
+        size,
+        width,
+        height,
+        lambda char, box: large_glyph(char, font, box, base, centre, widest, stops, weight, rim),
+    )
 
 
-STATUS = {"top": 3, "at": (0, 0.45, 0.55, 1), "light": 0.5, "dark": 0.25, "rim": (40, 22, 8),
-          "colours": ((255, 246, 170), (255, 214, 62), (246, 178, 28), (214, 112, 6))}
-MATCH = {"top": 4, "at": (0, 0.48, 0.52, 1), "light": 0.5, "dark": 0.3, "rim": (34, 6, 6),
-         "colours": ((255, 190, 160), (255, 86, 60), (226, 34, 22), (150, 8, 8))}
-TITLE = {"top": 4, "at": (0, 0.5, 1), "light": 0.4, "dark": 0.2, "rim": (16, 30, 14),
-         "colours": ((246, 255, 196), (186, 240, 92), (96, 190, 44))}
+STATUS = {
+    "top": 3,
+    "at": (0, 0.45, 0.55, 1),
+    "light": 0.5,
+    "dark": 0.25,
+    "rim": (40, 22, 8),
+    "colours": ((255, 246, 170), (255, 214, 62), (246, 178, 28), (214, 112, 6)),
+}
+MATCH = {
+    "top": 4,
+    "at": (0, 0.48, 0.52, 1),
+    "light": 0.5,
+    "dark": 0.3,
+    "rim": (34, 6, 6),
+    "colours": ((255, 190, 160), (255, 86, 60), (226, 34, 22), (150, 8, 8)),
+}
+TITLE = {
+    "top": 4,
+    "at": (0, 0.5, 1),
+    "light": 0.4,
+    "dark": 0.2,
+    "rim": (16, 30, 14),
+    "colours": ((246, 255, 196), (186, 240, 92), (96, 190, 44)),
+}
 
 
 def main():
     os.makedirs(TARGET, exist_ok=True)
-    small_sheet("fnt_cour_8.png", 7, 14, LIBERATION + "Mono-Regular.ttf", 11, 10,
-                ((255, 255, 255), (236, 236, 224)), redrawn())
-    small_sheet("fnt_cour_11.png", 9.05, 16.5, DEJAVU + "Mono-Bold.ttf", 12, 12,
-                ((235, 255, 215), (180, 235, 150)), {})
-    small_sheet("fnt_sys_8.png", 8, 15, DEJAVU + "Mono-Bold.ttf", 11, 11,
-                ((255, 255, 255), (240, 236, 205)), {})
+    small_sheet(
+        "fnt_cour_8.png",
+        7,
+        14,
+        LIBERATION + "Mono-Regular.ttf",
+        11,
+        10,
+        ((255, 255, 255), (236, 236, 224)),
+        redrawn(),
+    )
+    small_sheet(
+        "fnt_cour_11.png",
+        9.05,
+        16.5,
+        DEJAVU + "Mono-Bold.ttf",
+        12,
+        12,
+        ((235, 255, 215), (180, 235, 150)),
+        {},
+    )
+    small_sheet(
+        "fnt_sys_8.png",
+        8,
+        15,
+        DEJAVU + "Mono-Bold.ttf",
+        11,
+        11,
+        ((255, 255, 255), (240, 236, 205)),
+        {},
+    )
     large_sheet("fnt_bl_16.png", (439, 133), 17, 23, COMIC, 19, 17, 9, 9.6, STATUS, 0.35)
     large_sheet("fnt_DM_16.png", (439, 133), 16.7, 24, SPARTAN, 21, 18, 8.5, 11.0, MATCH, 0)
-    large_sheet("fnt_cour_16.png", (439, 140), 11, 21, LIBERATION + "Mono-Bold.ttf", 16, 15, 5, 7.9, TITLE, 0, 1.0)
+    large_sheet(
+        "fnt_cour_16.png",
+        (439, 140),
+        11,
+        21,
+        LIBERATION + "Mono-Bold.ttf",
+        16,
+        15,
+        5,
+        7.9,
+        TITLE,
+        0,
+        1.0,
+    )
 
 
 if __name__ == "__main__":

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Draws the menus' backgrounds and buttons, the captions, the level-start panel, its lights, the intro picture and the icon."""
+"""Draws the menus, captions, the level-start panel with its lights, the intro picture, the icon."""
 
 from pathlib import Path
 
@@ -22,7 +22,12 @@ IVORY = ((255, 255, 255), (255, 250, 226), (255, 226, 150), (150, 92, 20))
 BRONZE = ((255, 250, 220), (255, 228, 150), (238, 192, 98), (110, 70, 20))
 SHADE = (30, 16, 6)
 ICONS = (16, 32, 48, 64, 128, 256)
-LIGHTS = {"Yellow": (255, 222, 30), "Red": (255, 44, 30), "Blue": (60, 120, 255), "Green": (50, 230, 60)}
+LIGHTS = {
+    "Yellow": (255, 222, 30),
+    "Red": (255, 44, 30),
+    "Blue": (60, 120, 255),
+    "Green": (50, 230, 60),
+}
 
 
 def caption(text, font, size, spacing, width, height, base, ramp, bevel=1.2, rim=1.4, shade=SHADE):
@@ -80,7 +85,7 @@ def graded(picture):
 
 
 def background(scene, title, place, subtitle=None, fade=(410, 438, 0.16)):
-    """A scene with the name of the game, perhaps a second line, and a dark foot for the status lines."""
+    """A scene with the name of the game, perhaps a second line, and a dark foot for texts."""
     picture = graded(reduce.load_rgba(scene)[..., :3])
     rows = np.arange(SCREEN[1])
     x = np.clip((rows - fade[0]) / (fade[1] - fade[0]), 0, 1)
@@ -94,7 +99,9 @@ def background(scene, title, place, subtitle=None, fade=(410, 438, 0.16)):
     picture = over(picture, standing_out(layer))
     if subtitle:
         text, size, base, middle = subtitle
-        mask = written(text, LIBERATION + "Serif-Bold.ttf", size, 1.5, *SCREEN, base, PLATE_FINE, middle)
+        mask = written(
+            text, LIBERATION + "Serif-Bold.ttf", size, 1.5, *SCREEN, base, PLATE_FINE, middle
+        )
         letters = small(chiselled(mask, PLATE_FINE, 1.6, GOLD, SHADE, 1.2), PLATE_FINE)
         picture = over(picture, standing_out(letters, 1.5, 3.0))
     return np.rint(picture * 255).astype(np.uint8)
@@ -104,7 +111,12 @@ def button(plate, text, ramp):
     rgba = np.repeat(np.repeat(reduce.load_rgba(plate), 2, axis=0), 2, axis=1)
     srgb, coverage = reduce.block_average(rgba, FINE)
     mask = reduce.opaque_mask(coverage)
-    label = small(caption(text, LIBERATION + "Sans-Bold.ttf", 14, 0.5, 250, 30, 20, ramp, 0.9, 1.1, (14, 12, 8)), FINE)
+    label = small(
+        caption(
+            text, LIBERATION + "Sans-Bold.ttf", 14, 0.5, 250, 30, 20, ramp, 0.5, 1.1, (14, 12, 8)
+        ),
+        FINE,
+    )
     srgb = over(reduce.sharpen(srgb, mask), label)
     return reduce.keyed(srgb, mask, reduce.BLACK, reduce.BRIGHT_INTERFACE)
 
@@ -117,17 +129,23 @@ def light(colour):
     shade = np.clip(1.15 - 0.75 * far, 0.3, 1)[..., None]
     glint = np.exp(-((u + 0.35) ** 2 + (v + 0.4) ** 2) * 9)[..., None]
     rgb = np.clip(np.array(colour) / 255 * shade + 0.8 * glint, 0, 1)
-    return reduce.reduce_render(np.concatenate([rgb, (far < 1)[..., None]], axis=2), 16, reduce.BLACK, 18, 0)
+    return reduce.reduce_render(
+        np.concatenate([rgb, (far < 1)[..., None]], axis=2), 16, reduce.BLACK, 18, 0
+    )
 
 
 def captions():
     bold = SPARTAN
     yield "pause", keyed_caption("Pause", bold, 46, 1.0, 174, 44, 35, GOLD, bevel=2.4, rim=1.8)
     yield "gover", keyed_caption("Game Over", bold, 33, -0.2, 174, 44, 33, RED, bevel=2.0, rim=1.8)
-    yield "hitwall", keyed_caption("You hit the wall!", bold, 24, 0.2, 203, 24, 18, GOLD, bevel=1.4, rim=1.3)
+    yield "hitwall", keyed_caption(
+        "You hit the wall!", bold, 24, 0.2, 203, 24, 18, GOLD, bevel=1.4, rim=1.3
+    )
     yield "dm", keyed_caption("DM", bold, 25, 1.0, 54, 21, 18.5, RED, bevel=1.5, rim=1.3)
     yield "dm_red", keyed_caption("Deathmatch", bold, 42, 0.2, 250, 70, 49, RED, bevel=2.6, rim=2.2)
-    yield "dm_blue", keyed_caption("Deathmatch", bold, 42, 0.2, 250, 70, 49, BLUE, bevel=2.6, rim=2.2)
+    yield "dm_blue", keyed_caption(
+        "Deathmatch", bold, 42, 0.2, 250, 70, 49, BLUE, bevel=2.6, rim=2.2
+    )
 
 
 def screen_scene(name):
@@ -140,7 +158,12 @@ def plate(which, width, height, lit=0):
 
 
 def main():
-    jobs = [Scene(HERE / "title.pov", 1760, 440), plate(1, 250, 30), plate(1, 250, 30, 1), plate(2, 315, 201)]
+    jobs = [
+        Scene(HERE / "title.pov", 1760, 440),
+        plate(1, 250, 30),
+        plate(1, 250, 30, 1),
+        plate(2, 315, 201),
+    ]
     jobs += [screen_scene(name) for name in ("menu", "options", "scores")]
     name, normal, lit, panel, menu, options, scores = (files[0] for files in render_all(jobs))
     title = reduce.load_rgba(name)
@@ -148,11 +171,17 @@ def main():
     menus = GFX / "menu"
     reduce.save(background(menu, title, (212, 0, 420)), menus / "bkg.png")
     line = ("Options", 38, 117, 316)
-    reduce.save(background(options, title, (148, 2, 340), line, (436, 462, 0.25)), menus / "bkg_o.png")
+    reduce.save(
+        background(options, title, (148, 2, 340), line, (436, 462, 0.25)), menus / "bkg_o.png"
+    )
     line = ("High Scores", 46, 164, 408)
-    reduce.save(background(scores, title, (250, 4, 340), line, (432, 458, 0.25)), menus / "bkg_hs.png")
+    reduce.save(
+        background(scores, title, (250, 4, 340), line, (432, 458, 0.25)), menus / "bkg_hs.png"
+    )
     intro = Image.fromarray(background(menu, title, (266, 6, 366), fade=(478, 480, 1)))
-    intro.crop((0, 4, 640, 248)).resize((394, 150), Image.LANCZOS).save(ROOT / "assets" / "intro.png", optimize=True)
+    intro.crop((0, 4, 640, 248)).resize((394, 150), Image.LANCZOS).save(
+        ROOT / "assets" / "intro.png", optimize=True
+    )
     for file, text in BUTTONS.items():
         reduce.save(button(normal, text, BRONZE), menus / f"{file}_n.png")
         reduce.save(button(lit, text, IVORY), menus / f"{file}_h.png")
@@ -160,7 +189,10 @@ def main():
         reduce.save(pixels, GFX / f"{file}.png")
     for file, colour in LIGHTS.items():
         reduce.save(light(colour), GFX / f"LED_{file}.png")
-    reduce.save(reduce.reduce_render(reduce.load_rgba(panel), PLATE_FINE, reduce.BLACK, 18), GFX / "statistics.png")
+    reduce.save(
+        reduce.reduce_render(reduce.load_rgba(panel), PLATE_FINE, reduce.BLACK, 18),
+        GFX / "statistics.png",
+    )
     icons()
 
 

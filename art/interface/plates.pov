@@ -1,4 +1,5 @@
-// Metal-framed plates, one unit a pixel: Which 1 is a menu button, 2 the panel of the level-start screen.
+// Metal-framed plates, one unit a pixel: Which 1 is a menu button, 2 the panel of the level-start
+// screen.
 #version 3.7;
 #ifndef (Which) #declare Which = 1; #end
 #ifndef (Lit) #declare Lit = 0; #end
@@ -14,7 +15,8 @@ camera { orthographic location <Wide / 2, High / 2, -200> direction z right Wide
 light_source { <-300, 500, -500> rgb 1.25 parallel point_at 0 }
 light_source { <200, -100, -400> rgb <0.25, 0.28, 0.34> shadowless parallel point_at 0 }
 sphere { 0, 3000
-  pigment { gradient y colour_map { [0.3 rgb <0.06, 0.04, 0.02>] [0.52 rgb <0.35, 0.24, 0.12>] [0.6 rgb <1.1, 0.9, 0.6>] } scale 3000 translate -1500 * y }
+  pigment { gradient y colour_map { [0.3 rgb <0.06, 0.04, 0.02>] [0.52 rgb <0.35, 0.24,
+    0.12>] [0.6 rgb <1.1, 0.9, 0.6>] } scale 3000 translate -1500 * y }
   finish { emission 1 diffuse 0 }
   no_image
   no_shadow
@@ -27,7 +29,8 @@ sphere { 0, 3000
 }
 #declare Bright_gold = texture {
   pigment { rgb <1.0, 0.72, 0.22> }
-  finish { ambient 0.1 diffuse 0.55 specular 0.9 roughness 0.02 metallic reflection { 0.4 metallic } }
+  finish { ambient 0.1 diffuse 0.55 specular 0.9 roughness 0.02 metallic reflection { 0.4 metallic
+    } }
 }
 
 // A frame of round bars around a rectangle.
@@ -37,7 +40,8 @@ sphere { 0, 3000
     cylinder { <X0, Y1, 0>, <X1, Y1, 0>, R }
     cylinder { <X0, Y0, 0>, <X0, Y1, 0>, R }
     cylinder { <X1, Y0, 0>, <X1, Y1, 0>, R }
-    sphere { <X0, Y0, 0>, R } sphere { <X1, Y0, 0>, R } sphere { <X0, Y1, 0>, R } sphere { <X1, Y1, 0>, R }
+    sphere { <X0, Y0, 0>, R } sphere { <X1, Y0, 0>, R } sphere { <X0, Y1, 0>, R }
+      sphere { <X1, Y1, 0>, R }
     texture { Metal }
   }
 #end
@@ -56,7 +60,8 @@ sphere { 0, 3000
   #end
   Frame(3, 7, 247, 23, 2, Metal)
   box { <3, 7, 0>, <247, 23, 3>
-    pigment { granite scale 22 colour_map { [0 rgb Face * 0.55] [0.6 rgb Face] [1 rgb Face * 1.5] } }
+    pigment { granite scale 22 colour_map { [0 rgb Face * 0.55] [0.6 rgb Face] [1 rgb Face * 1.5]
+      } }
     normal { granite 0.25 scale 8 }
     finish { ambient 0.12 * Lit diffuse 0.9 specular 0.25 roughness 0.03 }
   }
@@ -74,14 +79,18 @@ sphere { 0, 3000
   box { <4, 1, 0>, <311, 197, 4>
     pigment {
       granite scale 60
-      colour_map { [0 rgb <0.009, 0.014, 0.011>] [0.6 rgb <0.013, 0.020, 0.015>] [1 rgb <0.019, 0.027, 0.020>] }
+      colour_map { [0 rgb <0.009, 0.014, 0.011>] [0.6 rgb <0.013, 0.020, 0.015>] [1 rgb <0.019,
+        0.027, 0.020>] }
     }
     finish { ambient 0.35 diffuse 0.8 }
   }
   // Below: a strip for the key's name and the five lights.
-  box { <6, 2, -0.4>, <309, 17.4, 1> pigment { rgb <0.030, 0.020, 0.010> } finish { ambient 0.3 diffuse 0.6 } }
+  box { <6, 2, -0.4>, <309, 17.4, 1> pigment { rgb <0.030, 0.020, 0.010> }
+    finish { ambient 0.3 diffuse 0.6 } }
   Frame(262.5, 2.2, 312.6, 9.6, 0.6, Bronze)
-  box { <263, 2.2, -3.2>, <312.6, 9.6, 1> pigment { rgb <0.006, 0.007, 0.006> } finish { ambient 0.4 diffuse 0.6 } }
-  #for (I, 0, 1) Stud(4.6 + 305.8 * I, 196.4, 4.5, Bright_gold) Stud(4.4 + 306.2 * I, 18, 3.4, Bright_gold) #end
+  box { <263, 2.2, -3.2>, <312.6, 9.6, 1> pigment { rgb <0.006, 0.007, 0.006> }
+    finish { ambient 0.4 diffuse 0.6 } }
+  #for (I, 0, 1) Stud(4.6 + 305.8 * I, 196.4, 4.5, Bright_gold) Stud(4.4 + 306.2 * I, 18, 3.4,
+    Bright_gold) #end
   Stud(157.5, 197, 4.0, Bright_gold)
 #end

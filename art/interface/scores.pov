@@ -1,31 +1,12 @@
-// The page of the best scores: a golden cup on a pedestal with the boa around it, and a tablet for the table.
+// The page of the best scores: a golden cup on a pedestal with the boa around it, and a tablet for
+// the table.
 #declare Haze = 400;
 #include "court.inc"
 
 camera { location <0, 4, -13> direction z right 4 / 3 * x up y angle 54 }
 
 // The face of the tablet shows at x 298 to 618, y 205 to 432.
-#declare Left = -0.38;
-#declare Right = 5.22;
-#declare Low = 0.64;
-#declare High = 4.61;
-
-#declare Slate = texture {
-  pigment { granite scale 2.2 colour_map { [0 rgb <0.010, 0.014, 0.012>] [1 rgb <0.022, 0.028, 0.024>] } }
-  finish { ambient 0.3 diffuse 0.3 }
-}
-#macro Bar(From, To, Deep, Seed)
-  superellipsoid { <0.12, 0.12>
-    scale (To - From) / 2 + Deep * z
-    translate (From + To) / 2
-    Stone(Sand_stone * 0.95, Seed)
-  }
-#end
-box { <Left - 0.2, Low - 0.2, -1.95>, <Right + 0.2, High + 0.2, -1.5> texture { Slate } }
-Bar(<Left - 0.32, High - 0.02, -2>, <Right + 0.32, High + 0.30, -2>, 0.42, 1)
-Bar(<Left - 0.32, Low - 0.6, -2>, <Right + 0.32, Low + 0.02, -2>, 0.42, 2)
-Bar(<Left - 0.30, Low - 0.1, -2>, <Left + 0.02, High + 0.1, -2>, 0.36, 3)
-Bar(<Right - 0.02, Low - 0.1, -2>, <Right + 0.30, High + 0.1, -2>, 0.36, 4)
+Tablet(-0.38, 5.22, 0.64, 4.61)
 object { Fern(10, 1.5, 42) translate <6.1, -0.3, -2.8> }
 object { Fern(10, 1.4, 43) translate <-5.6, -0.2, -3.2> }
 
@@ -33,7 +14,8 @@ object { Fern(10, 1.4, 43) translate <-5.6, -0.2, -3.2> }
 #declare Cz = -1.4;
 #declare Gold = texture {
   pigment { rgb <1.0, 0.66, 0.12> }
-  finish { ambient 0.02 diffuse 0.35 specular 0.9 roughness 0.01 metallic reflection { 0.5 metallic } }
+  finish { ambient 0.02 diffuse 0.35 specular 0.9 roughness 0.01 metallic reflection { 0.5
+    metallic } }
 }
 
 // Pedestal and cup.
@@ -47,14 +29,16 @@ union {
 union {
   lathe {
     cubic_spline 14,
-    <0, -0.1>, <0.62, 0>, <0.60, 0.12>, <0.30, 0.22>, <0.15, 0.42>, <0.13, 0.68>, <0.26, 0.86>, <0.62, 1.06>, <0.86, 1.50>,
+    <0, -0.1>, <0.62, 0>, <0.60, 0.12>, <0.30, 0.22>, <0.15, 0.42>, <0.13, 0.68>, <0.26, 0.86>,
+      <0.62, 1.06>, <0.86, 1.50>,
     <0.92, 2.05>, <1.00, 2.15>, <0.93, 2.20>, <0.80, 1.60>, <0.2, 1.2>
     sturm
   }
   #for (S, -1, 1, 2)
     sphere_sweep {
       cubic_spline 7,
-      <S * 0.5, 2.1, 0>, 0.08, <S * 0.88, 1.92, 0>, 0.08, <S * 1.28, 2.0, 0>, 0.08, <S * 1.42, 1.7, 0>, 0.08
+      <S * 0.5, 2.1, 0>, 0.08, <S * 0.88, 1.92, 0>, 0.08, <S * 1.28, 2.0, 0>, 0.08, <S * 1.42,
+        1.7, 0>, 0.08
       <S * 1.2, 1.36, 0>, 0.08, <S * 0.76, 1.26, 0>, 0.08, <S * 0.4, 1.3, 0>, 0.08
     }
   #end
@@ -77,7 +61,8 @@ object { Banana(1.5) rotate 95 * z rotate 20 * y translate <-2.4, 0.7, -4.6> }
   0.20, <-2.6, 0.40, -3.45>
   #for (I, 0, 19)
     #local Deg = -60 + 30 * I;
-    0.245 + 0.03 * I, <Cx + (1.66 + 0.1 * cos(radians(Deg * 4))) * cos(radians(Deg)), 0.5 + 0.098 * I, Cz + 1.72 * sin(radians(Deg))>
+    0.245 + 0.03 * I, <Cx + (1.66 + 0.1 * cos(radians(Deg * 4))) * cos(radians(Deg)),
+      0.5 + 0.098 * I, Cz + 1.72 * sin(radians(Deg))>
   #end
   0.85, <Cx - 1.95, 3.0, Cz - 0.75>
   0.885, <Cx - 1.85, 3.7, Cz - 1.15>
@@ -85,32 +70,4 @@ object { Banana(1.5) rotate 95 * z rotate 20 * y translate <-2.4, 0.7, -4.6> }
   0.96, <Cx - 0.95, 4.3, Cz - 1.85>
   1.00, <Cx - 0.4, 4.12, Cz - 2.2>
 }
-#declare Steps = 380;
-#declare Spine = array[Steps + 1];
-#declare Long = 0;
-Resample(Course, Steps, Spine, Long)
-#declare Wide = spline {
-  linear_spline
-  0, 0.0 0.05, 0.05 1, 0.14 2.5, 0.28 4, 0.36 6, 0.40 Long - 3, 0.40 Long - 1.7, 0.32 Long - 1.35, 0.36 Long - 1.1, 0.46
-  Long - 0.85, 0.51 Long - 0.6, 0.49 Long - 0.36, 0.40 Long - 0.16, 0.30 Long - 0.06, 0.20 Long - 0.02, 0.11 Long, 0.0
-}
-#declare Tall = spline {
-  linear_spline
-  0, 0.0 0.05, 0.05 1, 0.14 2.5, 0.28 4, 0.36 6, 0.40 Long - 3, 0.40 Long - 1.7, 0.32 Long - 1.35, 0.33 Long - 1.1, 0.36
-  Long - 0.85, 0.36 Long - 0.6, 0.33 Long - 0.36, 0.27 Long - 0.16, 0.20 Long - 0.06, 0.14 Long - 0.02, 0.08 Long, 0.0
-}
-object { Sweep(Spine, Steps, Long, 28, Wide, Tall, y, 1) texture { Green_skin } }
-#declare Nose = Spine[Steps];
-#declare Way = vnormalize(Spine[Steps] - Spine[Steps - 10]);
-#declare Side = vnormalize(vcross(y, Way));
-#declare Over = vcross(Way, Side);
-#for (S, -1, 1, 2)
-  Eyeball(Nose - Way * 0.62 + Side * S * 0.35 + Over * 0.25, 0.2, Way * 0.75 + Side * S * 0.5 - z * 0.6)
-  sphere { Nose - Way * 0.07 + Side * S * 0.11 + Over * 0.09, 0.03 pigment { rgb 0.01 } }
-#end
-union {
-  cone { Nose - Way * 0.2, 0.045, Nose + Way * 0.35, 0.04 }
-  #for (S, -1, 1, 2) cone { Nose + Way * 0.34, 0.036, Nose + Way * 0.58 + Side * S * 0.13, 0.008 } #end
-  pigment { rgb <0.8, 0.03, 0.06> }
-  finish { ambient 0.1 diffuse 0.8 specular 0.4 }
-}
+object { Boa(Course, 380, y, 0.40, 0.83, 1, -0.6 * z) }

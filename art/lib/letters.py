@@ -34,7 +34,7 @@ def grown(mask, radius):
 
 
 def written(text, font, size, spacing, width, height, base, fine, centre=None):
-    """A mask of fine samples a pixel with a line of text, its base line at a row, centred at a column."""
+    """A mask, fine samples a pixel, of a line of text with its base line at a row, centred."""
     face = ImageFont.truetype(font, int(size * fine))
     advance = [face.getlength(char) + spacing * fine for char in text]
     middle = width / 2 if centre is None else centre
@@ -48,15 +48,19 @@ def written(text, font, size, spacing, width, height, base, fine, centre=None):
 
 
 def chiselled(mask, fine, bevel, ramp, rim, rim_width):
-    """Float RGBA of letters in relief: ramp is (lit, face above, face below, shaded) in sRGB, around them a rim."""
+    """Float RGBA of letters in relief; ramp: lit, face above, face below, shaded, in sRGB."""
     inside = distance(~mask, bevel * fine) / fine
     rise = np.clip(inside / bevel, 0, 1)
     relief = bevel * np.sin(rise * np.pi / 2)
     gy, gx = np.gradient(relief, 1 / fine)
     lit = np.clip((-gy * 0.8 - gx * 0.5) * -1, -1, 1) * -1
     rows = np.flatnonzero(mask.any(axis=1))
-    down = np.clip((np.arange(mask.shape[0]) - rows[0]) / max(rows[-1] - rows[0], 1), 0, 1)[:, None, None]
-    light, upper, lower, shade = (reduce.to_linear(np.array(colour, float) / 255) for colour in ramp)
+    down = np.clip((np.arange(mask.shape[0]) - rows[0]) / max(rows[-1] - rows[0], 1), 0, 1)[
+        :, None, None
+    ]
+    light, upper, lower, shade = (
+        reduce.to_linear(np.array(colour, float) / 255) for colour in ramp
+    )
     face = upper * (1 - down) + lower * down
     up, dark = np.clip(-lit, 0, 1)[..., None], np.clip(lit, 0, 1)[..., None]
     colour = face * (1 - up) * (1 - dark) + light * up + shade * dark

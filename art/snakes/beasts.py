@@ -20,20 +20,45 @@ class Bee:
 
     def head(self, canvas, path):
         for side in (-1, 1):
-            canvas.stroke(path, ((0.7, side * 2.6), (0.9, side * 4.0), (0.94, side * 5.6)), (0.8, 0.9), 5.0, self.dark)
+            canvas.stroke(
+                path,
+                ((0.7, side * 2.6), (0.9, side * 4.0), (0.94, side * 5.6)),
+                (0.8, 0.9),
+                5.0,
+                self.dark,
+            )
             canvas.ball(path, 0.93, side * 5.6, 5.0, (1.5, 1.5, 1.5), self.dark)
 
         def face(s, v):
             return {"colour": mix(self.yellow, self.dark, band(s, 0.2, 0.1, 0.03)), "gloss": 0.3}
 
-        canvas.tube(path, snout((0, BODY + 0.3), (0.1, BODY), (0.3, 6.9), (0.5, 8.6), (0.86, 6.6)), face, height=0.9)
+        canvas.tube(
+            path,
+            snout((0, BODY + 0.3), (0.1, BODY), (0.3, 6.9), (0.5, 8.6), (0.86, 6.6)),
+            face,
+            height=0.9,
+        )
         for side in (-1, 1):
-            canvas.ball(path, 0.26, side * 6.2, 6.0, (3.6, 2.6, 1.2), rgb(205, 230, 250), 0.8, 0.5, turn=side * 28)
+            canvas.ball(
+                path,
+                0.26,
+                side * 6.2,
+                6.0,
+                (3.6, 2.6, 1.2),
+                rgb(205, 230, 250),
+                0.8,
+                0.5,
+                turn=side * 28,
+            )
         eyes(canvas, path, 0.56, 4.7, 3.2, 4.2)
 
     def tail(self, canvas, path):
         canvas.stroke(path, ((0.3, 0), (0.03, 0)), (1.8, 0.5), 1.0, self.dark)
-        canvas.tube(path, taper((0.2, 2.5), (0.45, 6.4), (0.8, 7.2), (1.0, BODY + 0.3), length=0.2), self.skin)
+        canvas.tube(
+            path,
+            taper((0.2, 2.5), (0.45, 6.4), (0.8, 7.2), (1.0, BODY + 0.3), length=0.2),
+            self.skin,
+        )
 
 
 class Caterpillar:
@@ -62,7 +87,9 @@ class Caterpillar:
         for side in (-1, 1):
             canvas.stroke(path, ((0.6, side * 3.0), (0.86, side * 6.0)), 0.7, 7.0, rgb(20, 60, 120))
             canvas.ball(path, 0.86, side * 6.4, 7.0, (1.8, 1.8, 1.8), self.foot)
-        canvas.tube(path, snout((0, 6.25), (0.06, 6.25), (0.22, 5.6), (0.26, 5.6), length=0.1), self.skin)
+        canvas.tube(
+            path, snout((0, 6.25), (0.06, 6.25), (0.22, 5.6), (0.26, 5.6), length=0.1), self.skin
+        )
         canvas.ball(path, 0.5, 0, 1.0, (8.4, 8.8, 7.0), self.blue, 0.4)
         canvas.ball(path, 0.84, 0, 5.0, (2.1, 2.5, 2.0), rgb(235, 40, 50), 0.6)
         eyes(canvas, path, 0.58, 3.7, 3.2, 6.0)
@@ -71,7 +98,9 @@ class Caterpillar:
         self.feet(canvas, path, (0.75,))
 
         def narrow(s):
-            return self.radius(s) * taper((0.1, 0.5), (0.5, 0.95), (0.88, 1), (1.0, 1), length=0.3)(s)
+            return self.radius(s) * taper((0.1, 0.5), (0.5, 0.95), (0.88, 1), (1.0, 1), length=0.3)(
+                s
+            )
 
         canvas.tube(path, narrow, self.skin)
 
@@ -92,19 +121,34 @@ class Clown:
 
     def head(self, canvas, path):
         for side in (-1, 1):
-            canvas.ball(path, 0.3, side * 7.2, 1.0, (4.2, 2.4, 1.5), self.orange, 0.4, turn=side * 30)
+            canvas.ball(
+                path, 0.3, side * 7.2, 1.0, (4.2, 2.4, 1.5), self.orange, 0.4, turn=side * 30
+            )
 
         def face(s, v):
             colour = mix(self.orange, self.edge, band(s, 0.24, 0.15, 0.02))
             colour = mix(colour, WHITE, band(s, 0.24, 0.1, 0.02))
             return {"colour": mix(colour, self.edge, band(s, 0.885, 0.022, 0.02)), "gloss": 0.5}
 
-        canvas.tube(path, snout((0, BODY), (0.1, BODY), (0.45, 8.2), (0.97, 5.6), length=0.4), face, height=0.9)
+        canvas.tube(
+            path,
+            snout((0, BODY), (0.1, BODY), (0.45, 8.2), (0.97, 5.6), length=0.4),
+            face,
+            height=0.9,
+        )
         eyes(canvas, path, 0.56, 4.8, 3.3, 4.2)
 
     def tail(self, canvas, path):
-        canvas.plate(path, ((0.02, 7.0), (0.34, 1.5), (0.34, -1.5), (0.02, -7.0), (0.1, 0)), 0.5, self.edge)
-        canvas.plate(path, ((0.05, 5.6), (0.32, 0.8), (0.32, -0.8), (0.05, -5.6), (0.13, 0)), 1.0, self.orange, 0.2)
+        canvas.plate(
+            path, ((0.02, 7.0), (0.34, 1.5), (0.34, -1.5), (0.02, -7.0), (0.1, 0)), 0.5, self.edge
+        )
+        canvas.plate(
+            path,
+            ((0.05, 5.6), (0.32, 0.8), (0.32, -0.8), (0.05, -5.6), (0.13, 0)),
+            1.0,
+            self.orange,
+            0.2,
+        )
         canvas.tube(path, taper((0.22, 2.6), (0.88, BODY), (1.0, BODY)), self.skin)
 
 
@@ -140,7 +184,12 @@ class Skeleton:
 
         def skull(s, v):
             colour = mix(self.bone, self.shade, band(s, 0.86, 0.02, 0.02) * 0.8)
-            return {"colour": mix(colour, BLACK, band(np.abs(v), 0.28, 0.13, 0.06) * band(s, 0.8, 0.035, 0.02)), "gloss": 0.3}
+            return {
+                "colour": mix(
+                    colour, BLACK, band(np.abs(v), 0.28, 0.13, 0.06) * band(s, 0.8, 0.035, 0.02)
+                ),
+                "gloss": 0.3,
+            }
 
         ends = snout((0.12, 5.2), (0.42, 8.9), (0.66, 6.0), (0.96, 5.0), length=0.2)
         back = taper((0.12, 5.2), (0.42, 8.9), (1.0, 8.9), length=0.22)
@@ -162,7 +211,9 @@ class Tiger:
     def skin(self, s, v):
         colour = mix(self.coat, self.cream, step(np.abs(v), 0.78, 0.1))
         wedge = 0.24 * (1 - 0.5 * np.abs(v))
-        stripes = band((3 * s + 0.55 * np.abs(v)) % 1, 0.5, wedge, 0.07) * (1 - band(v, 0, 0.1, 0.04))
+        stripes = band((3 * s + 0.55 * np.abs(v)) % 1, 0.5, wedge, 0.07) * (
+            1 - band(v, 0, 0.1, 0.04)
+        )
         return {"colour": mix(colour, self.stripe, stripes), "gloss": 0.15}
 
     def body(self, canvas, path):
@@ -183,4 +234,6 @@ class Tiger:
         eyes(canvas, path, 0.6, 4.2, 2.5, 5.6, white=rgb(200, 245, 120))
 
     def tail(self, canvas, path):
-        canvas.tube(path, taper((0.04, 2.6), (0.4, 3.6), (0.88, BODY), (1.0, BODY), length=0.14), self.skin)
+        canvas.tube(
+            path, taper((0.04, 2.6), (0.4, 3.6), (0.88, BODY), (1.0, BODY), length=0.14), self.skin
+        )

@@ -13,7 +13,10 @@ class Candy:
     def skin(self, s, v):
         turn = 2 * s + 0.30 * np.arcsin(np.clip(v, -1, 1))
         colour = mix(self.mint, self.red, band(turn % 1, 0.5, 0.26, 0.05))
-        return {"colour": mix(colour, rgb(80, 190, 120), band((turn + 0.5) % 1, 0.5, 0.05, 0.03)), "gloss": 0.9}
+        return {
+            "colour": mix(colour, rgb(80, 190, 120), band((turn + 0.5) % 1, 0.5, 0.05, 0.03)),
+            "gloss": 0.9,
+        }
 
     def body(self, canvas, path):
         canvas.tube(path, even(BODY), self.skin)
@@ -37,7 +40,10 @@ class Robot:
 
     def hinge(self, canvas, path, radius):
         def rubber(s, v):
-            return {"colour": mix(self.dark, rgb(96, 104, 118), 0.5 + 0.5 * np.cos(WAVE * 8 * s)), "gloss": 0.2}
+            return {
+                "colour": mix(self.dark, rgb(96, 104, 118), 0.5 + 0.5 * np.cos(WAVE * 8 * s)),
+                "gloss": 0.2,
+            }
 
         canvas.tube(path, radius, rubber)
 
@@ -91,7 +97,11 @@ class Rope:
         round_ = np.sin(np.pi * twist)
         fibre = 0.5 + 0.5 * np.sin(WAVE * (6 * s + 2.4 * v))
         colour = mix(self.dark, self.hemp, step(round_, 0.3, 0.28))
-        return {"colour": mix(colour, rgb(250, 222, 164), 0.35 * fibre * round_), "gloss": 0.08, "bump": 1.6 * round_}
+        return {
+            "colour": mix(colour, rgb(250, 222, 164), 0.35 * fibre * round_),
+            "gloss": 0.08,
+            "bump": 1.6 * round_,
+        }
 
     def body(self, canvas, path):
         canvas.tube(path, even(BODY), self.skin)
@@ -102,19 +112,39 @@ class Rope:
         def knot(s, v):
             twist = (4 * s + 0.35 * np.abs(v)) % 1
             round_ = np.sin(np.pi * twist)
-            return {"colour": mix(self.dark, self.hemp, step(round_, 0.25, 0.25)), "gloss": 0.08, "bump": 1.3 * round_}
+            return {
+                "colour": mix(self.dark, self.hemp, step(round_, 0.25, 0.25)),
+                "gloss": 0.08,
+                "bump": 1.3 * round_,
+            }
 
-        canvas.tube(path, snout((0.14, 8.0), (0.5, 9.6), (0.86, 7.6), length=0.2), lambda s, v: knot(s, v), 2.0, 1.0)
+        canvas.tube(
+            path,
+            snout((0.14, 8.0), (0.5, 9.6), (0.86, 7.6), length=0.2),
+            lambda s, v: knot(s, v),
+            2.0,
+            1.0,
+        )
         for d in (-4, -1.4, 1.4, 4):
             canvas.stroke(path, ((0.84, d * 0.7), (0.985, d)), (1.1, 0.7), 1.0, self.hemp, 0)
         eyes(canvas, path, 0.54, 4.4, 3.3, 7.0, pupil=rgb(170, 14, 24))
 
     def tail(self, canvas, path):
         for d in (-6, -3.2, 0, 3.2, 6):
-            canvas.stroke(path, ((0.4, d * 0.6), (0.06 + 0.012 * abs(d), d)), (1.5, 0.7), 1.0, self.hemp, 0)
-        canvas.tube(path, taper((0.26, 4.6), (0.5, 5.4), (0.88, BODY), (1.0, BODY), length=0.06), self.skin)
-        canvas.tube(path, lambda s: np.where((s > 0.36) & (s < 0.48), 5.9, 0.0),
-                    lambda s, v: {"colour": mix(rgb(200, 30, 40), rgb(120, 10, 20), band((s * 12) % 1, 0, 0.2)), "gloss": 0.3})
+            canvas.stroke(
+                path, ((0.4, d * 0.6), (0.06 + 0.012 * abs(d), d)), (1.5, 0.7), 1.0, self.hemp, 0
+            )
+        canvas.tube(
+            path, taper((0.26, 4.6), (0.5, 5.4), (0.88, BODY), (1.0, BODY), length=0.06), self.skin
+        )
+        canvas.tube(
+            path,
+            lambda s: np.where((s > 0.36) & (s < 0.48), 5.9, 0.0),
+            lambda s, v: {
+                "colour": mix(rgb(200, 30, 40), rgb(120, 10, 20), band((s * 12) % 1, 0, 0.2)),
+                "gloss": 0.3,
+            },
+        )
 
 
 class Train:
@@ -124,15 +154,23 @@ class Train:
     COUPLER = 2.6
 
     def coupler(self, canvas, path, first=-9.0, last=9.0):
-        canvas.tube(path, lambda s: np.where((s > first) & (s < last), self.COUPLER, 0.0),
-                    lambda s, v: {"colour": mix(self.dark, rgb(130, 130, 140), 1 - np.abs(v)), "gloss": 0.4})
+        canvas.tube(
+            path,
+            lambda s: np.where((s > first) & (s < last), self.COUPLER, 0.0),
+            lambda s, v: {
+                "colour": mix(self.dark, rgb(130, 130, 140), 1 - np.abs(v)),
+                "gloss": 0.4,
+            },
+        )
 
     def box(self, canvas, path, first, last, width, colour, top, power=6.0, rim=0.16):
         def paint(s, v):
             edge = np.minimum(np.minimum(s - first, last - s) * 20, (1 - np.abs(v)) * width)
             return {"colour": mix(colour, top, step(edge, 1.7, 0.3)), "gloss": 0.25}
 
-        canvas.tube(path, lambda s: np.where((s > first) & (s < last), width, 0.0), paint, power, 0.6)
+        canvas.tube(
+            path, lambda s: np.where((s > first) & (s < last), width, 0.0), paint, power, 0.6
+        )
 
     def wheels(self, canvas, path, places, reach=8.4):
         for s in places:
@@ -143,7 +181,13 @@ class Train:
         self.coupler(canvas, path)
         self.wheels(canvas, path, (0.27, 0.73))
         self.box(canvas, path, 0.1, 0.9, 7.8, self.red, rgb(88, 44, 24))
-        for s, d, turn in ((0.3, 2.2, 20), (0.36, -2.6, -15), (0.56, 1.6, 70), (0.62, -3.0, 30), (0.7, 2.6, -25)):
+        for s, d, turn in (
+            (0.3, 2.2, 20),
+            (0.36, -2.6, -15),
+            (0.56, 1.6, 70),
+            (0.62, -3.0, 30),
+            (0.7, 2.6, -25),
+        ):
             canvas.ball(path, s, d, 4.2, (3.6, 1.5, 1.6), self.gold, 0.4, turn=turn)
 
     def head(self, canvas, path):

@@ -29,7 +29,9 @@ def eyes(canvas, path, s, d, size=2.6, z=5.0, white=WHITE, pupil=BLACK, look=0.0
         canvas.ball(path, s, side * d, z, (size, size, size), white, 0.1)
         canvas.ball(path, s + look, side * (d - 0.2), z + 4, (size * 0.64,) * 3, pupil, 0.0)
         x, y = path.place(s + look, side * (d - 0.2))[0]
-        canvas.dot(x - 0.3 * size * path.scale, y - 0.35 * size * path.scale, size * 0.3 * path.scale)
+        canvas.dot(
+            x - 0.3 * size * path.scale, y - 0.35 * size * path.scale, size * 0.3 * path.scale
+        )
 
 
 def tongue(canvas, path, s, colour=rgb(225, 20, 45)):
@@ -40,4 +42,6 @@ def tongue(canvas, path, s, colour=rgb(225, 20, 45)):
 
 def scales(s, v, along=7, across=3.0, depth=0.22):
     """Relief of overlapping scales, whole periods a cell."""
-    return depth * np.abs(np.sin(np.pi * (along * s + across * v)) * np.sin(np.pi * (along * s - across * v)))
+    return depth * np.abs(
+        np.sin(np.pi * (along * s + across * v)) * np.sin(np.pi * (along * s - across * v))
+    )

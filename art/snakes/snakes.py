@@ -25,8 +25,12 @@ class Boa:
 
         def face(s, v):
             colour = mix(self.green, self.flank, step(np.abs(v), 0.7, 0.15))
-            colour = mix(colour, self.yellow, band(np.abs(v), 0.0, 0.16, 0.06) * band(s, 0.22, 0.2, 0.05))
-            colour = mix(colour, rgb(10, 50, 12), band(np.abs(v), 0.16, 0.1, 0.05) * step(s, 0.76, 0.02))
+            colour = mix(
+                colour, self.yellow, band(np.abs(v), 0.0, 0.16, 0.06) * band(s, 0.22, 0.2, 0.05)
+            )
+            colour = mix(
+                colour, rgb(10, 50, 12), band(np.abs(v), 0.16, 0.1, 0.05) * step(s, 0.76, 0.02)
+            )
             return {"colour": colour, "gloss": 0.5}
 
         canvas.tube(path, snout((0, BODY), (0.1, BODY), (0.4, 9.4), (0.9, 5.2)), face, height=0.8)
@@ -57,11 +61,15 @@ class Coral:
             colour = mix(colour, self.yellow, band(s, 0.34, 0.1, 0.03))
             return {"colour": colour, "gloss": 0.7}
 
-        canvas.tube(path, snout((0, BODY), (0.15, BODY), (0.45, 8.4), (0.9, 6.0)), face, height=0.85)
+        canvas.tube(
+            path, snout((0, BODY), (0.15, BODY), (0.45, 8.4), (0.9, 6.0)), face, height=0.85
+        )
         eyes(canvas, path, 0.6, 4.2, 2.5, 4.8)
 
     def tail(self, canvas, path):
-        canvas.tube(path, taper((0.04, 1.0), (0.88, BODY), (1.0, BODY)), lambda s, v: self.skin(s + 0.5, v))
+        canvas.tube(
+            path, taper((0.04, 1.0), (0.88, BODY), (1.0, BODY)), lambda s, v: self.skin(s + 0.5, v)
+        )
 
 
 class Frost:
@@ -96,7 +104,20 @@ class Lava:
     folder, name = "lava", "Magma Python"
     rock, fire, hot = rgb(52, 44, 46), rgb(255, 96, 0), rgb(255, 232, 90)
 
-    PLATES = ((1, -7), (3, 1), (2, 7), (7, -3), (9, 4), (7, 9), (12, -8), (13, 0), (15, 6), (17, -4), (18, 9), (8, -10))
+    PLATES = (
+        (1, -7),
+        (3, 1),
+        (2, 7),
+        (7, -3),
+        (9, 4),
+        (7, 9),
+        (12, -8),
+        (13, 0),
+        (15, 6),
+        (17, -4),
+        (18, 9),
+        (8, -10),
+    )
 
     def skin(self, s, v):
         along, across = (s % 1) * 20, 10 * np.arcsin(np.clip(v, -1, 1)) / 1.57
@@ -108,7 +129,12 @@ class Lava:
         open_ = 1 - step(crack, 0.75, 0.4)
         colour = mix(self.rock, self.fire, open_)
         colour = mix(colour, self.hot, 1 - step(crack, 0.3, 0.25))
-        return {"colour": colour, "gloss": 0.3, "glow": open_ * 0.95, "bump": 0.25 * np.minimum(crack, 2.5)}
+        return {
+            "colour": colour,
+            "gloss": 0.3,
+            "glow": open_ * 0.95,
+            "bump": 0.25 * np.minimum(crack, 2.5),
+        }
 
     def body(self, canvas, path):
         canvas.tube(path, even(BODY), self.skin)
@@ -137,21 +163,38 @@ class Dragon:
 
     def skin(self, s, v):
         colour = mix(self.hide, self.belly, step(np.abs(v), 0.66, 0.12))
-        colour = mix(colour, rgb(70, 6, 104), band((2 * s + 0.9 * np.abs(v)) % 1, 0.5, 0.1, 0.08) * (np.abs(v) < 0.7))
+        colour = mix(
+            colour,
+            rgb(70, 6, 104),
+            band((2 * s + 0.9 * np.abs(v)) % 1, 0.5, 0.1, 0.08) * (np.abs(v) < 0.7),
+        )
         return {"colour": colour, "gloss": 0.5, "bump": scales(s, v, 6, 2.4, 0.2)}
 
     def spikes(self, canvas, path, places, size=1.0):
         for s in places:
-            canvas.stroke(path, ((s + 0.15, 0), (s - 0.17, 0)), (3.0 * size, 0.4), 6.5, self.gold, 0.5)
+            canvas.stroke(
+                path, ((s + 0.15, 0), (s - 0.17, 0)), (3.0 * size, 0.4), 6.5, self.gold, 0.5
+            )
 
     def body(self, canvas, path):
         canvas.tube(path, even(BODY), self.skin)
         self.spikes(canvas, path, (0.27, 0.77))
 
     def head(self, canvas, path):
-        canvas.tube(path, snout((0, BODY), (0.12, BODY), (0.38, 8.6), (0.7, 6.0), (0.97, 5.6)), self.skin, height=0.85)
+        canvas.tube(
+            path,
+            snout((0, BODY), (0.12, BODY), (0.38, 8.6), (0.7, 6.0), (0.97, 5.6)),
+            self.skin,
+            height=0.85,
+        )
         for side in (-1, 1):
-            canvas.stroke(path, ((0.36, side * 4.2), (0.24, side * 6.8), (0.1, side * 8.6)), (1.6, 0.6), 6.0, self.gold)
+            canvas.stroke(
+                path,
+                ((0.36, side * 4.2), (0.24, side * 6.8), (0.1, side * 8.6)),
+                (1.6, 0.6),
+                6.0,
+                self.gold,
+            )
             canvas.ball(path, 0.86, side * 2.4, 4.2, (1.2, 1.0, 1.0), rgb(50, 0, 70), 0)
         self.spikes(canvas, path, (0.24,), 0.9)
         eyes(canvas, path, 0.52, 4.6, 2.8, 5.4, white=rgb(200, 255, 110))

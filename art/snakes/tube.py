@@ -1,9 +1,10 @@
 """Draws snake pieces from above as height fields.
 
-A piece is a path through one cell of 20 x 20 (straight, or a quarter circle about a corner) with shapes laid
-along it: tubes, ellipsoids, strokes.  Places on a path are (s, d): s runs 0 to 1 from the side where a snake comes in
-to the side where it goes out, d is the distance to the left of the path in pixels.  Every direction is drawn
-anew under the same two lights, from the north and from the west.
+A piece is a path through one cell of 20 x 20 (straight, or a quarter circle about a corner) with
+shapes laid along it: tubes, ellipsoids, strokes.  Places on a path are (s, d): s runs 0 to 1 from
+the side where a snake comes in to the side where it goes out, d is the distance to the left of the
+path in pixels.  Every direction is drawn anew under the same two lights, from the north and from
+the west.
 """
 
 import numpy as np
@@ -166,7 +167,7 @@ class Canvas:
         self.glow[top] = np.broadcast_to(glow, z.shape)[top]
 
     def tube(self, path, radius, paint, power=2.0, height=1.0, lift=0.0):
-        """A tube along the path. radius(s) in pixels; paint(s, v) with v from -1 (right edge) to 1 gives
+        """A tube along the path. radius(s) in pixels; paint(s, v), v from -1 (right) to 1, gives
         a dictionary for put and, as "bump", a relief in pixels. power 2 is round, more is boxy."""
         s, d, tx, ty = path.field(self.x, self.y)
         room = path.room(self.x, self.y)
@@ -196,7 +197,7 @@ class Canvas:
         return path.room(self.x, self.y) > INSET
 
     def ball(self, path, s, d, z, size, colour, gloss=0.5, glow=0.0, turn=0.0):
-        """An ellipsoid: size is (along, across, up) in pixels, turn an angle to the left in degrees."""
+        """An ellipsoid: size is (along, across, up) in pixels, turn in degrees to the left."""
         (cx, cy), (tx, ty) = path.place(s, d)
         angle = np.radians(turn)
         ux, uy = tx * np.cos(angle) + ty * np.sin(angle), ty * np.cos(angle) - tx * np.sin(angle)
@@ -206,7 +207,15 @@ class Canvas:
         far = p * p + q * q
         root = np.sqrt(np.maximum(1 - far, 0.02))
         sp, sq = -up * p / root / along, -up * q / root / across
-        self.put((far < 1) & self.free(path), path.scale * z + up * root, sp * ux + sq * uy, sp * uy - sq * ux, colour, gloss, glow)
+        self.put(
+            (far < 1) & self.free(path),
+            path.scale * z + up * root,
+            sp * ux + sq * uy,
+            sp * uy - sq * ux,
+            colour,
+            gloss,
+            glow,
+        )
 
     def stroke(self, path, places, radius, z, colour, gloss=0.3, glow=0.0):
         """A rounded line through places (s, d) of the path; the radius may be a pair (from, to)."""
@@ -216,12 +225,22 @@ class Canvas:
         for i in range(count):
             (ax, ay), (bx, by) = points[i], points[i + 1]
             ex, ey = bx - ax, by - ay
-            along = np.clip(((self.x - ax) * ex + (self.y - ay) * ey) / max(ex * ex + ey * ey, 1e-9), 0, 1)
+            along = np.clip(
+                ((self.x - ax) * ex + (self.y - ay) * ey) / max(ex * ex + ey * ey, 1e-9), 0, 1
+            )
             r = path.scale * (first + (last - first) * (i + along) / count)
             dx, dy = self.x - ax - along * ex, self.y - ay - along * ey
             far = (dx * dx + dy * dy) / (r * r)
             root = np.sqrt(np.maximum(1 - far, 0.02))
-            self.put((far < 1) & self.free(path), path.scale * z + r * root, -dx / r / root, -dy / r / root, colour, gloss, glow)
+            self.put(
+                (far < 1) & self.free(path),
+                path.scale * z + r * root,
+                -dx / r / root,
+                -dy / r / root,
+                colour,
+                gloss,
+                glow,
+            )
 
     def dot(self, x, y, radius):
         """A white glint above everything at a point of the picture."""
@@ -239,8 +258,15 @@ class Canvas:
             inside &= ((bx - ax) * (self.y - ay) - (by - ay) * (self.x - ax)) * np.sign(side) >= 0
         _, (tx, ty) = path.place(*corners[0])
         zeros = np.zeros_like(self.x)
-        self.put(inside & self.free(path), zeros + path.scale * z, zeros + tilt[0] * tx + tilt[1] * ty,
-                 zeros + tilt[0] * ty - tilt[1] * tx, colour, gloss, glow)
+        self.put(
+            inside & self.free(path),
+            zeros + path.scale * z,
+            zeros + tilt[0] * tx + tilt[1] * ty,
+            zeros + tilt[0] * ty - tilt[1] * tx,
+            colour,
+            gloss,
+            glow,
+        )
 
     def lit(self):
         """The samples as float RGBA in sRGB."""
