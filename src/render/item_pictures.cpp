@@ -1,5 +1,6 @@
 #include "render/item_pictures.h"
 
+#include <algorithm>
 #include <string_view>
 
 namespace coilrun {
@@ -25,6 +26,10 @@ constexpr std::array<KindFiles, kItemKinds> kFiles = {
 
 constexpr std::size_t Index(ItemKind kind) {
   return static_cast<std::size_t>(kind);
+}
+
+std::size_t FrameIndex(int frame) {
+  return static_cast<std::size_t>(std::clamp(frame, 1, kAnimationFrames) - 1);
 }
 
 KeyMode FrameKey(ItemKind kind) {
@@ -63,7 +68,7 @@ ItemPictures::ItemPictures(PictureStore& store) : store_(store) {
 }
 
 ItemPicture& ItemPictures::Frame(ItemKind kind, int frame) {
-  return frames_[Index(kind)].at(static_cast<std::size_t>(frame - 1));
+  return frames_[Index(kind)].at(FrameIndex(frame));
 }
 
 ItemPicture& ItemPictures::Icon(ItemKind kind, bool animated) {
@@ -88,7 +93,7 @@ NamedPicture* ItemPictures::UserItem(const UserItemRec& item, int frame) {
           NamedPicture{FrameFile(item.Name + "\\", n), KeyMode::kGrey131};
     }
   }
-  return &found->second.at(static_cast<std::size_t>(frame - 1));
+  return &found->second.at(FrameIndex(frame));
 }
 
 void ItemPictures::Draw(Surface& target, ItemPicture& item, int x, int y) {

@@ -23,7 +23,7 @@ class ItemPictures {
   explicit ItemPictures(PictureStore& store);
 
   ItemPicture& Flat(ItemKind kind) { return flat_[static_cast<std::size_t>(kind)]; }
-  /// `frame` is 1 to 45.
+  /// `frame` is 1 to 45; beyond, the nearest.
   ItemPicture& Frame(ItemKind kind, int frame);
   /// The icon of a kind on the item panel and the level screen.
   ItemPicture& Icon(ItemKind kind, bool animated);

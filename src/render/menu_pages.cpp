@@ -64,13 +64,11 @@ MenuPages::MenuPages(const State& state, Canvas& canvas, const StandardPictures&
 
 void MenuPages::DrawMainPage() {
   canvas_.DrawWhole(standard_(Standard::kMenu));
+  // Buttons reach into the next one's place: the lit one comes last, over its neighbours.
+  for (const Button& button : kButtons) DrawButton(button.normal, button.y);
   for (std::size_t i = 0; i < kButtons.size(); ++i) {
-    const Button& button = kButtons[i];
-    DrawButton(button.normal, button.y);
-    if (!state_.menus.EntryLit(static_cast<int>(i) + 1)) continue;
-    DrawButton(button.lit, button.y);
-    items_.Draw(canvas_.Back(), items_.Frame(ItemKind::kYellow, state_.timers.AnimFrame), 285,
-                button.y + 5);
+    if (state_.menus.EntryLit(static_cast<int>(i) + 1))
+      DrawLitButton(kButtons[i].lit, kButtons[i].y);
   }
   DrawStatus(state_.menus.StatusText);
 }
@@ -88,7 +86,7 @@ void MenuPages::DrawOptionsLines() {
   text_.SetFont(MenuFont("Arial"));
   for (int line = 1; line <= kOptionsLines; ++line) {
     const bool mutator = line >= kFirstMutator && line <= kLastMutator;
-    const bool dimmed = mutator && IsMultiplayer(state_.mode.GameMode);
+    const bool dimmed = mutator && state_.mode.GameMode == GameMode::kDeathmatch;
     text_.SetColor(dimmed ? kDimmed : kWhite);
     for (const Heading& heading : kHeadings) {
       if (heading.beforeLine != line) continue;
@@ -148,6 +146,13 @@ void MenuPages::DrawModelPreview() {
 
 void MenuPages::DrawButton(Standard picture, int y) {
   canvas_.Back().Blit(standard_(picture), kButtonX, y);
+}
+
+void MenuPages::DrawLitButton(Standard picture, int y) {
+  constexpr Rect kBananaPart{0, 0, 16, 16};
+  DrawButton(picture, y);
+  ItemPicture& banana = items_.Frame(ItemKind::kYellow, state_.timers.AnimFrame);
+  canvas_.Back().Blit(items_.Fetch(banana.picture), kBananaPart, 285, y + 5, true);
 }
 
 Color FadeColor(int step) {

@@ -38,6 +38,7 @@ class MenuPages {
   void DrawStatus(std::string_view status);
   void DrawModelPreview();
   void DrawButton(Standard picture, int y);
+  void DrawLitButton(Standard picture, int y);
 
   const State& state_;
   Canvas& canvas_;

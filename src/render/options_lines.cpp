@@ -55,7 +55,7 @@ std::string OptionsLineText(const State& state, int line) {
 }
 
 std::string ModelText(const State& state, int model) {
-  if (!state.ModelPacks.Holds(model) || model > state.LastModel) return {};
+  if (!state.ModelPacks.Holds(model)) return {};
   const ModelPack& pack = state.ModelPacks(model);
   return pack.Name + " by " + pack.Author;
 }

@@ -82,7 +82,7 @@ constexpr std::array<Standard, 4> kLightColours = {Standard::kLedRed, Standard::
 constexpr int kLights = 5;
 
 Standard LightColour(int light, int phase) {
-  const int turned = (light + kLights * 4 - phase) % 4;
+  const int turned = (light + 4 - std::clamp(phase, 0, 4)) % 4;
   return kLightColours[static_cast<std::size_t>(turned)];
 }
 
@@ -149,6 +149,7 @@ void Overlays::DrawWaitOverlay() {
     canvas_.Back().Blit(picture, kScreenWidth / 2 - picture.Width() / 2, 140);
   }
   if (state_.overlay == WaitOverlay::kTimeLimit) {
+    text_.SetTextStyle("Standart");
     text_.SetFont({"Balloon", 20, false});
     text_.DrawSystemText("Time Limit Hit!", 230, 210);
     text_.SetFont({"Balloon", 12, false});

@@ -19,10 +19,6 @@ int SnakesInPlay(const State& state) {
   return std::clamp<int>(state.mode.NumSnakes, 1, kMaxSnakes);
 }
 
-int Frame(const State& state) {
-  return std::clamp<int>(state.timers.AnimFrame, 1, kAnimationFrames);
-}
-
 }  // namespace
 
 PlayField::PlayField(const State& state, Canvas& canvas, const StandardPictures& standard,
@@ -44,7 +40,7 @@ void PlayField::DrawStartMarkers() {
 void PlayField::DrawItems(ItemKind kind, bool forceFlat) {
   const ItemList& items = state_.Items(kind);
   const bool animated = state_.settings.AnimatedItems && !forceFlat;
-  ItemPicture& picture = animated ? items_.Frame(kind, Frame(state_)) : items_.Flat(kind);
+  ItemPicture& picture = animated ? items_.Frame(kind, state_.timers.AnimFrame) : items_.Flat(kind);
   const auto* const end = items.slots.begin() + items.Live();
   for (const auto* item = items.slots.begin(); item != end; ++item) {
     if (item->Present) items_.Draw(canvas_.Back(), picture, item->X, item->Y);
@@ -61,7 +57,8 @@ void PlayField::DrawAllItems(bool tntFirst) {
 }
 
 void PlayField::DrawWalls() {
-  for (int w = 1; w <= state_.numWalls; ++w) {
+  const int walls = std::min<int>(state_.numWalls, kMaxWalls);
+  for (int w = 1; w <= walls; ++w) {
     const WallRec& wall = state_.Walls(w);
     if (!wall.Present || wall.Kind == WallKind::kNone) continue;
     const Standard picture = kWallPictures[static_cast<std::size_t>(wall.Kind)];
@@ -70,10 +67,11 @@ void PlayField::DrawWalls() {
 }
 
 void PlayField::DrawUserItems() {
-  for (int u = 1; u <= state_.numUserItems; ++u) {
+  const int userItems = std::min<int>(state_.numUserItems, kMaxUserItems);
+  for (int u = 1; u <= userItems; ++u) {
     const UserItemRec& item = state_.UserItems(u);
     if (!item.Present) continue;
-    NamedPicture* const picture = items_.UserItem(item, Frame(state_));
+    NamedPicture* const picture = items_.UserItem(item, state_.timers.AnimFrame);
     if (picture == nullptr) continue;
     canvas_.Back().Blit(items_.Fetch(*picture), kCellPart, item.X, item.Y, true);
   }

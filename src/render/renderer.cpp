@@ -44,7 +44,6 @@ Renderer::Renderer(State& state, RendererPorts ports)
       menus_(state, canvas_, standard_, models_, items_, text_, ports.version) {}
 
 void Renderer::DrawFrame(const Table<bool, kMaxSnakes>& shown) {
-  canvas_.FillBack({});
   field_.DrawBackground();
   field_.DrawStartMarkers();
   field_.DrawAllItems();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <span>
 #include <vector>
 
 #include "ports/screen.h"
@@ -25,6 +26,7 @@ class Surface {
   void BlendText(const TextMask& mask, int x, int y, Color color);
 
   ScreenPixels Pixels() const { return ScreenPixels{pixels_}; }
+  std::span<Pixel, kScreenPixels> Pixels() { return std::span<Pixel, kScreenPixels>{pixels_}; }
 
  private:
   Pixel* At(int x, int y);
