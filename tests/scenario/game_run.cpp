@@ -1,6 +1,7 @@
 #include "scenario/game_run.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
@@ -13,6 +14,10 @@ namespace coilrun {
 namespace {
 
 namespace fs = std::filesystem;
+
+/// What a program folder holds before anybody has played in it.
+constexpr std::array kShipped = {"gfx.snr", "snd.snr",      "models",       "music",
+                                 "fonts",   "defaults.ini", "AI_Names.lst", "intro.bmp"};
 
 std::string InQuotes(const std::string& argument) {
   std::string quoted = "'";
@@ -69,10 +74,10 @@ std::optional<nlohmann::json> FirstWhere(const GameRun& run,
 
 ProgramFolder::ProgramFolder() : home_(FreshFolder()) {
   fs::create_directory(Data());
-  for (const auto& entry : fs::directory_iterator(COILRUN_BUILD_DIR "/game")) {
-    const fs::path name = entry.path().filename();
-    if (name == "lvl" || name == "coilrun") continue;
-    fs::copy(entry.path(), Data() / name, fs::copy_options::recursive);
+  const fs::path built = COILRUN_BUILD_DIR "/game";
+  for (const char* const name : kShipped) {
+    if (fs::exists(built / name))
+      fs::copy(built / name, Data() / name, fs::copy_options::recursive);
   }
   fs::copy(COILRUN_SOURCE_DIR "/tests/scenario/levels", Data() / "lvl");
 }
