@@ -47,16 +47,14 @@ void UpdateNeck(SnakeRec& body) {
   body.Seg(0) = {neck.x, neck.y, Joined(body.Seg(0).Dir, body.Dir)};
 }
 
-/// Carries every cell, and with it the corner that it shows, one place down the body. A cell that
-/// shows a corner already takes no second one: two turns in a row leave the second cell plain.
+/// Carries every cell, and with it the corner that it shows, one place down the body. The cell
+/// ahead is made plain before its own turn comes, so that two corners in a row stay two corners.
 void Shift(SnakeRec& body) {
-  const int last = std::min<int>(body.Length, kLastSeg);
-  for (int i = last; i >= 1; --i) {
-    const SegRec& ahead = body.Seg(i - 1);
-    SegRec& cell = body.Seg(i);
-    cell = {ahead.X, ahead.Y, Joined(cell.Dir, Straightened(ahead.Dir))};
+  for (int i = std::min<int>(body.Length, kLastSeg); i >= 1; --i) {
+    SegRec& ahead = body.Seg(i - 1);
+    ahead.Dir = Straightened(ahead.Dir);
+    body.Seg(i) = {ahead.X, ahead.Y, Joined(body.Seg(i).Dir, ahead.Dir)};
   }
-  if (last >= 1) body.Seg(0).Dir = Straightened(body.Seg(0).Dir);
 }
 
 }  // namespace

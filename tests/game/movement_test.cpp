@@ -66,12 +66,12 @@ TEST(BodyUpdate, EveryTurnHasItsCode) {
   }
 }
 
-TEST(BodyUpdate, TwoTurnsInARowLeaveTheSecondCellPlain) {
+TEST(BodyUpdate, TwoTurnsInARowShowTwoCorners) {
   Field field;
   field.Put(1, {200, 200}).Length = 3;
   for (int step = 0; step < 3; ++step) CellsAfter(field, Dir::kForw);
   CellsAfter(field, Dir::kLeft);
-  EXPECT_THAT(CellsAfter(field, Dir::kForw), ElementsAre("Forw", "Forw", "FL", "Forw"));
+  EXPECT_THAT(CellsAfter(field, Dir::kForw), ElementsAre("Forw", "LF", "FL", "Forw"));
 }
 
 TEST(BodyUpdate, OddLengthsTouchNothingElse) {
