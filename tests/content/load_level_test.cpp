@@ -1,0 +1,252 @@
+#include "content/load_level.h"
+
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "support/content_stage.h"
+
+namespace coilrun {
+namespace {
+
+constexpr const char* kPath = ".\\lvl\\lvl1.dat";
+
+std::string Repeated(int times, const std::string& text) {
+  std::string all;
+  for (int i = 0; i < times; ++i) all += text;
+  return all;
+}
+
+class LoadLevelTest : public testing::Test {
+ protected:
+  LoadLevelTest() { state.shell.LevelIntroPending = true; }
+
+  void Load(const std::string& text) {
+    stage.files.Put(kPath, text);
+    LoadLevel(stage.context, kPath);
+  }
+  bool Failed() const {
+    return state.shell.NoGameRunning && state.shell.InMenu && state.shell.Running &&
+           !state.shell.LevelIntroPending && !state.shell.ShowLevelScreen &&
+           state.menus.StatusText == std::string("Level ") + kPath + " does not exist";
+  }
+  bool Loaded() const {
+    return !state.shell.NoGameRunning && state.shell.ShowLevelScreen &&
+           state.shell.WaitingForStart && state.shell.Running;
+  }
+
+  ContentStage stage;
+  State& state = stage.state;
+};
+
+TEST_F(LoadLevelTest, PutsMapAndKeysIntoTheState) {
+  Load(
+      "| S * a .\r\nlvlName= Yard\r\nnextLvl= lvl2.dat\r\nTimeout= 90\r\nnumYellow=2\r\n"
+      "numPower=1\r\nhasOpenWalls=True\r\nreqYellow=5\r\nreqScore=70\r\nblueRate=7.5\r\n"
+      "BkgPic= b.bmp\r\nMusicFile=  m.ogg\r\nincrease=1\r\nmaxSpd=12.5\r\ngSpeed=80");
+  EXPECT_TRUE(Loaded());
+  EXPECT_EQ(state.numWalls, 1);
+  EXPECT_EQ(state.Walls(1).At(), (Point{20, 20}));
+  EXPECT_EQ(state.Snakes(1).StartX, 30);
+  EXPECT_EQ(state.Snakes(1).StartY, 10);
+  EXPECT_EQ(state.level.MapSnakeCount, 1);
+  EXPECT_EQ(state.numSpawnPoints, 1);
+  EXPECT_EQ(state.numUserItems, 1);
+  EXPECT_EQ(state.UserItems(1).Name, "A");
+  EXPECT_FALSE(state.UserItems(1).Present);
+  EXPECT_EQ(state.level.lvlName, "Yard");
+  EXPECT_EQ(state.level.nextLvl, ".\\lvl\\lvl2.dat");
+  EXPECT_EQ(state.level.Timeout, 90);
+  EXPECT_EQ(state.level.reqYellow, 5);
+  EXPECT_EQ(state.level.reqScore, 70);
+  EXPECT_EQ(state.level.blueRate, 7.5);
+  EXPECT_EQ(state.level.MusicFile, ".\\music\\m.ogg");
+  EXPECT_TRUE(state.level.hasOpenWalls);
+  EXPECT_TRUE(state.level.UsesPower);
+  EXPECT_FALSE(state.level.UsesRed);
+  EXPECT_TRUE(state.settings.IncSpeed);
+  EXPECT_EQ(state.settings.MaxSpeed, 12.5);
+  EXPECT_EQ(state.Snakes(1).BaseInterval, 80);
+  EXPECT_EQ(state.Snakes(1).Interval, 100);
+  EXPECT_TRUE(state.Items(ItemKind::kYellow)(2).Present);
+  EXPECT_TRUE(state.Items(ItemKind::kPower)(1).Present);
+  EXPECT_EQ(stage.host.backgrounds, std::vector<std::string>{"\\gfx\\b.bmp"});
+  EXPECT_EQ(stage.host.preparations, 1);
+}
+
+TEST_F(LoadLevelTest, KeepsAndResetsWhatTheLevelBeforeLeft) {
+  Load("| S * .\nnextLvl= lvl9.dat\nlvlName= One\nreqRed=4\nnumPower=2\nhasOpenWalls=True\n");
+  SnakeRec& player = state.Snakes(1);
+  player.TotalScore = 500;
+  player.Lives = 2;
+  player.Score = 90;
+  player.TNT = 3;
+  player.Length = 40;
+  player.Immortal = true;
+  state.level.ElapsedSecs = 70;
+  state.shell.lvlTime = true;
+  state.Items(ItemKind::kRed)(5).Present = true;
+
+  Load("S .\n");
+
+  EXPECT_TRUE(Loaded());
+  EXPECT_EQ(state.level.nextLvl, ".\\lvl\\lvl9.dat");
+  EXPECT_EQ(state.level.lvlName, "One");
+  EXPECT_EQ(state.level.reqRed, 0);
+  EXPECT_FALSE(state.level.hasOpenWalls);
+  EXPECT_FALSE(state.Walls(1).Present);
+  EXPECT_FALSE(state.SpawnPoints(1).Present);
+  EXPECT_FALSE(state.Items(ItemKind::kPower)(1).Present);
+  EXPECT_TRUE(state.Items(ItemKind::kRed)(5).Present);
+  EXPECT_EQ(player.TotalScore, 500);
+  EXPECT_EQ(player.Lives, 2);
+  EXPECT_EQ(player.Score, 0);
+  EXPECT_EQ(player.TNT, 0);
+  EXPECT_EQ(player.Length, 1);
+  EXPECT_TRUE(player.Immortal);
+  EXPECT_EQ(player.Head(), (Point{30, 10})) << "the head waits on the start of the level before";
+  EXPECT_EQ(player.StartX, 10);
+  EXPECT_EQ(state.level.ElapsedSecs, 0);
+  EXPECT_FALSE(state.shell.lvlTime);
+  EXPECT_EQ(state.settings.MaxSpeed, 30);
+}
+
+TEST_F(LoadLevelTest, EndsEveryFaultInTheMenus) {
+  const std::vector<std::string> faults = {
+      "numRed=40000",
+      "Timeout=",
+      "increase=maybe",
+      "set:",
+      "AIS=32767",
+      "numYellow=301",
+      "numPower=301",
+      Repeated(22, Repeated(31, "| ") + ".\n"),
+      Repeated(22, Repeated(31, "a ") + ".\n"),
+      Repeated(22, Repeated(14, "* ") + ".\n"),
+      Repeated(33, "Requires=a.zip\n"),
+      std::string("| .\n\0\xFF\nnumTNT=99999", 20),
+  };
+  for (const std::string& text : faults) {
+    state.shell = {};
+    state.shell.LevelIntroPending = true;
+    Load(text);
+    EXPECT_TRUE(Failed()) << text.substr(0, 40);
+    EXPECT_GE(state.mode.NumSnakes, 1);
+    EXPECT_LE(state.mode.NumSnakes, kMaxSnakes);
+  }
+  stage.files.Delete(kPath);
+  LoadLevel(stage.context, kPath);
+  EXPECT_TRUE(Failed());
+}
+
+TEST_F(LoadLevelTest, TakesTablesThatAreJustFull) {
+  Load(Repeated(21, Repeated(32, "| ") + ".\n") + Repeated(9, "| ") + ".\n" +
+       Repeated(32, "Requires=a.zip\n") + "numYellow=1");
+  EXPECT_TRUE(Loaded());
+  EXPECT_EQ(state.numWalls, kMaxWalls);
+}
+
+TEST_F(LoadLevelTest, TellsTheFaultInDebugMode) {
+  state.shell.DebugMode = true;
+  LoadLevel(stage.context, kPath);
+  EXPECT_EQ(state.feed.Console(5), state.menus.StatusText + "\r\n");
+}
+
+TEST_F(LoadLevelTest, LeavesItemsAbsentOnAFullField) {
+  Load(Repeated(22, Repeated(30, "| ") + ".\n") + "numYellow=2\nnumRed=1\n");
+  EXPECT_TRUE(Loaded());
+  EXPECT_FALSE(state.Items(ItemKind::kRed)(1).Present);
+  EXPECT_EQ(state.Items(ItemKind::kRed)(1).At(), kParked);
+}
+
+struct SnakeCase {
+  std::string text;
+  int switchCount;  ///< "/AIS=" of the command line, -1 without
+  int snakes;
+};
+
+TEST_F(LoadLevelTest, CountsSnakesByKeySwitchAndMap) {
+  const std::vector<SnakeCase> cases = {
+      {"S 1 2 3 4 5 .\nAIS=3\n", -1, 4},
+      {"S 1 .\nAIS=3\n", -1, 2},
+      {"1 2 S .\nAIS=3\n", -1, 1},
+      {"S 1 2 3 4 5 .\n", 3, 4},
+      {"S 1 .\n", 3, 2},
+      {"S 1 2 3 4 5 .\n", 1000000, 6},
+      {"S 1 2 .\nAIS=0\n", -1, 1},
+      {"S 1 2 .\nAIS=-7\n", -1, 1},
+      {"S 1 2 .\nAIS=1.5\n", -1, 2},
+  };
+  for (const SnakeCase& each : cases) {
+    state.mode = {};
+    state.mode.AiSwitchGiven = state.mode.AiEnabled = each.switchCount >= 0;
+    state.mode.AiCount = each.switchCount;
+    Load(each.text);
+    EXPECT_TRUE(Loaded());
+    EXPECT_EQ(state.mode.NumSnakes, each.snakes) << each.text << each.switchCount;
+    EXPECT_EQ(state.timers.iWait(1).Enabled, each.snakes > 1) << each.text;
+    state.timers.iWait(1).Enabled = false;
+  }
+}
+
+TEST_F(LoadLevelTest, KeepsThePlayerOnAMapWithoutStarts) {
+  Load("numYellow=1\nAIS=3\n");
+  EXPECT_TRUE(Loaded());
+  EXPECT_EQ(state.mode.NumSnakes, 1);
+  EXPECT_EQ(state.Snakes(1).StartX, 310);
+  EXPECT_EQ(state.Snakes(1).StartY, 230);
+}
+
+TEST_F(LoadLevelTest, SetsTheMatchLimitOnlyWhenItHasNone) {
+  state.mode.MatchLimit = 1;
+  Load("S .");
+  EXPECT_EQ(state.mode.MatchLimit, 120);
+  state.mode.MatchLimit = 0;
+  state.mode.HuntingMode = true;
+  Load("S .");
+  EXPECT_EQ(state.mode.MatchLimit, 30);
+  Load("S .");
+  EXPECT_EQ(state.mode.MatchLimit, 30);
+}
+
+TEST_F(LoadLevelTest, UnpacksRequiredArchivesByTheirEnding) {
+  stage.archive.archives[".\\extra.snr"] = {{"x.bmp", "1"}};
+  stage.archive.archives[".\\other.SNR"] = {{"y.bmp", "1"}};
+  Load("Requires= extra.snr\nRequires=other.SNR\nRequires=gone.snr\n");
+  EXPECT_TRUE(Loaded());
+  EXPECT_TRUE(stage.files.Exists(".\\gfx\\x.bmp"));
+  EXPECT_FALSE(stage.files.Exists(".\\gfx\\y.bmp"));
+  EXPECT_EQ(state.level.RequiredArchives(3), "gone.snr");
+  EXPECT_EQ(state.feed.introCaption, "Unextracting: gone.snr");
+}
+
+TEST_F(LoadLevelTest, GivesUserItemsTheirPictures) {
+  stage.files.Put(".\\gfx\\crate.bmp", "BM");
+  stage.files.Put(".\\gfx\\fan\\1.bmp", "BM");
+  stage.host.pictures = {"crate.bmp"};
+  for (int frame = 1; frame <= 45; ++frame) {
+    stage.host.pictures.insert("fan\\" + std::to_string(frame) + ".bmp");
+  }
+  Load("c c f d .\nlet:c wall\nset:c crate.bmp\nset:f fan\nlet:d ani_wall_no_tnt\nset:d fan\n");
+  ASSERT_TRUE(Loaded());
+  EXPECT_TRUE(state.level.UserItemsUsed);
+  EXPECT_EQ(state.UserItems(2).Name, "crate.bmp");
+  EXPECT_EQ(state.UserItems(2).Type, "wall");
+  EXPECT_TRUE(state.UserItems(2).Present);
+  EXPECT_EQ(state.UserItems(3).Type, "");
+  EXPECT_EQ(stage.host.preloaded.size(), 46U) << "one picture, then 45 frames, each once";
+  EXPECT_EQ(stage.host.percents.back(), 100);
+}
+
+TEST_F(LoadLevelTest, FailsOnATypedUserItemWithoutItsPicture) {
+  stage.files.Put(".\\gfx\\crate.bmp", "BM");
+  stage.host.pictures = {"crate.bmp"};
+  Load("c d .\nlet:c wall\nset:c crate.bmp\nlet:d wall\nset:d missing.bmp\n");
+  EXPECT_TRUE(Failed());
+  Load("c d .\nlet:d wall\nset:d missing.bmp\n");
+  EXPECT_TRUE(Loaded()) << "without any picture nothing is preloaded";
+}
+
+}  // namespace
+}  // namespace coilrun

@@ -1,0 +1,107 @@
+#include "content/model_packs.h"
+
+#include <gtest/gtest.h>
+
+#include "content/model_ini.h"
+#include "support/content_stage.h"
+
+namespace coilrun {
+namespace {
+
+struct IniCase {
+  std::string text;
+  ModelPack expected;
+};
+
+TEST(ModelIni, ChangesOnlyWhatItsLinesSay) {
+  const ModelPack before = {"f", "d", "Old", "Me", true, false, false};
+  const std::vector<IniCase> cases = {
+      {"", before},
+      {"NAME=Boa\r\nAUTHOR You\r\n", {"f", "d", "Boa", "You", true, false, false}},
+      {"NAME", {"f", "d", "", "Me", true, false, false}},
+      {"name=Boa\n NAME=Boa\n# x", before},
+      {"EDGES=0\nEDGES_INVERS=1\nTAIL_EDGES=1", {"f", "d", "Old", "Me", false, true, true}},
+      {"EDGES=x\nEDGES_INVERS:-1\nTAIL_EDGES", {"f", "d", "Old", "Me", false, true, false}},
+      {"TAIL_EDGES= 2\nTAIL_EDGES=0", before},
+  };
+  for (const auto& [text, expected] : cases) {
+    ModelPack pack = before;
+    ReadModelIni(text, pack);
+    EXPECT_EQ(pack.Name, expected.Name) << text;
+    EXPECT_EQ(pack.Author, expected.Author) << text;
+    EXPECT_EQ(pack.Edges, expected.Edges) << text;
+    EXPECT_EQ(pack.EdgesInverse, expected.EdgesInverse) << text;
+    EXPECT_EQ(pack.TailEdges, expected.TailEdges) << text;
+  }
+}
+
+class ModelPacksTest : public testing::Test {
+ protected:
+  void AddPack(const std::string& name, const FakeArchive::Entries& entries) {
+    const std::string path = ".\\models\\" + name + ".smp";
+    stage.files.Put(path, "");
+    stage.archive.archives[path] = entries;
+  }
+  bool ConsoleShows(const std::string& line) const {
+    return std::find(state.feed.Console.begin(), state.feed.Console.end(), line + "\r\n") !=
+           state.feed.Console.end();
+  }
+
+  ContentStage stage;
+  State& state = stage.state;
+};
+
+TEST_F(ModelPacksTest, NumbersThePacksByName) {
+  AddPack("coral", {{"coral\\model.ini", "NAME=Coral Snake\nAUTHOR=Ann\nEDGES=1\n"}});
+  AddPack("boa", {{"boa\\start.bmp", "x"}});
+  SnGetModelPacks(stage.context);
+  EXPECT_EQ(state.LastModel, 1);
+  EXPECT_EQ(state.ModelPacks(0).File, "boa.smp");
+  EXPECT_EQ(state.ModelPacks(0).Name, "boa");
+  EXPECT_EQ(state.ModelPacks(0).Author, "Unknown");
+  EXPECT_TRUE(state.ModelPacks(0).TailEdges);
+  EXPECT_EQ(state.ModelPacks(1).Dir, "coral");
+  EXPECT_EQ(state.ModelPacks(1).Name, "Coral Snake");
+  EXPECT_FALSE(state.ModelPacks(1).TailEdges);
+  EXPECT_EQ(stage.host.models, (std::vector<int>{0, 1}));
+  EXPECT_EQ(state.feed.introCaption, "Decompressing/Loading model: coral");
+  EXPECT_TRUE(stage.archive.passwords.empty());
+}
+
+TEST_F(ModelPacksTest, UnpacksOnlyBeforeTheDisplayIsReady) {
+  AddPack("boa", {{"boa\\start.bmp", "x"}});
+  state.shell.DisplayReady = true;
+  SnGetModelPacks(stage.context);
+  EXPECT_FALSE(stage.files.Exists(".\\gfx\\boa\\start.bmp"));
+  EXPECT_EQ(stage.host.models, std::vector<int>{0});
+}
+
+TEST_F(ModelPacksTest, HaveNoModelWithoutPacks) {
+  SnGetModelPacks(stage.context);
+  EXPECT_EQ(state.LastModel, -1);
+  EXPECT_TRUE(stage.host.models.empty());
+}
+
+TEST_F(ModelPacksTest, NameTheFaultOfABadPackAndLoadTheOthers) {
+  AddPack("alien", {{"boa\\model.ini", "NAME=Taken over"}, {"alien\\start.bmp", "x"}});
+  AddPack("boa", {{"boa\\model.ini", "NAME=Boa"}});
+  AddPack("empty", {{"readme.txt", "x"}});
+  stage.files.Put(".\\models\\junk.smp", "no archive");
+  SnGetModelPacks(stage.context);
+  EXPECT_EQ(state.LastModel, 3);
+  EXPECT_EQ(state.ModelPacks(1).Name, "Boa");
+  EXPECT_TRUE(ConsoleShows("Model pack alien.smp: 1 files are damaged, locked or not allowed"));
+  EXPECT_TRUE(ConsoleShows("Model pack empty.smp holds no folder empty"));
+  EXPECT_TRUE(ConsoleShows("Model pack junk.smp is no archive that can be read"));
+}
+
+TEST_F(ModelPacksTest, UseTheFirstHundred) {
+  for (int i = 100; i <= 200; ++i) AddPack("p" + std::to_string(i), {{"p\\x.bmp", ""}});
+  SnGetModelPacks(stage.context);
+  EXPECT_EQ(state.LastModel, 99);
+  EXPECT_EQ(stage.host.models.size(), 100U);
+  EXPECT_TRUE(ConsoleShows("Model pack p200.smp and all after it: only 100 packs can be used"));
+}
+
+}  // namespace
+}  // namespace coilrun
