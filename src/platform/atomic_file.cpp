@@ -38,10 +38,6 @@ void SyncFolder(const fs::path& folder) {
   if (handle.IsOpen()) fsync(handle.Descriptor());
 }
 
-std::span<const std::uint8_t> AsBytes(std::string_view text) {
-  return {reinterpret_cast<const std::uint8_t*>(text.data()), text.size()};
-}
-
 }  // namespace
 
 bool ReplaceFile(const fs::path& file, std::string_view contents) {
@@ -53,7 +49,8 @@ bool ReplaceFile(const fs::path& file, std::string_view contents) {
   const fs::path temporary = target.native() + ".new";
   const FileHandle handle = OpenTemporary(temporary);
   if (!handle.IsOpen()) return false;
-  const bool whole = ftruncate(handle.Descriptor(), 0) == 0 && handle.WriteAll(AsBytes(contents)) &&
+  const bool whole = ftruncate(handle.Descriptor(), 0) == 0 &&
+                     handle.WriteAll(std::as_bytes(std::span(contents))) &&
                      fsync(handle.Descriptor()) == 0;
   if (!whole || rename(temporary.c_str(), target.c_str()) != 0) {
     unlink(temporary.c_str());

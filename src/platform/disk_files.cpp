@@ -89,6 +89,7 @@ std::optional<std::vector<std::string>> DiskFiles::List(const std::string& folde
   }
   if (!found) return std::nullopt;
   std::vector<std::string> sorted;
+  sorted.reserve(byFoldedName.size());
   for (const auto& [folded, name] : byFoldedName) sorted.push_back(name);
   return sorted;
 }

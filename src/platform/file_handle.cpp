@@ -16,6 +16,7 @@ constexpr mode_t kPermissions = 0666;
 }  // namespace
 
 FileHandle::FileHandle(const std::filesystem::path& file, int flags)
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-vararg): the system call has no other form.
     : descriptor_(open(file.c_str(), flags | O_CLOEXEC, kPermissions)) {}
 
 bool FileHandle::ReadAll(Bytes& contents, std::size_t limit) const {
@@ -36,7 +37,7 @@ bool FileHandle::ReadAll(Bytes& contents, std::size_t limit) const {
   return true;
 }
 
-bool FileHandle::WriteAll(std::span<const std::uint8_t> contents) const {
+bool FileHandle::WriteAll(std::span<const std::byte> contents) const {
   while (!contents.empty()) {
     const ssize_t put = write(descriptor_, contents.data(), contents.size());
     if (put < 0 && errno == EINTR) continue;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <filesystem>
 #include <span>
 #include <utility>
@@ -27,7 +28,7 @@ class FileHandle {
   int Descriptor() const { return descriptor_; }
   /// Reads up to the end of the file; false on an error or when there are more than `limit` bytes.
   bool ReadAll(Bytes& contents, std::size_t limit) const;
-  bool WriteAll(std::span<const std::uint8_t> contents) const;
+  bool WriteAll(std::span<const std::byte> contents) const;
   /// False when the system reports a late write error.
   bool Close();
 

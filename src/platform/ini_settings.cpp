@@ -67,20 +67,22 @@ IniSettings::IniSettings(fs::path file, const fs::path& defaults, Report report)
       defaults_(std::make_unique<Store>()) {
   LoadStore();
   const IniFile shipped = ReadIni(defaults);
-  if (shipped.damage)
+  if (shipped.damage) {
     report_("The default settings " + defaults.string() + " are left out: " + *shipped.damage);
-  else
+  } else {
     defaults_->ini.LoadData(shipped.text);
+  }
 }
 
 IniSettings::~IniSettings() = default;
 
 void IniSettings::LoadStore() {
   const IniFile stored = ReadIni(file_);
-  if (stored.damage)
+  if (stored.damage) {
     SetAside(*stored.damage);
-  else if (store_->ini.LoadData(stored.text) < 0)
+  } else if (store_->ini.LoadData(stored.text) < 0) {
     SetAside("it cannot be taken apart");
+  }
 }
 
 void IniSettings::SetAside(const std::string& reason) {

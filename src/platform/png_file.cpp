@@ -20,9 +20,10 @@ struct PngImage {
 std::vector<std::uint8_t> ToRgb(ScreenPixels pixels) {
   std::vector<std::uint8_t> rgb;
   rgb.reserve(pixels.size() * 3);
-  for (const std::uint32_t pixel : pixels)
+  for (const std::uint32_t pixel : pixels) {
     for (const unsigned shift : {16U, 8U, 0U})
       rgb.push_back(static_cast<std::uint8_t>(pixel >> shift));
+  }
   return rgb;
 }
 

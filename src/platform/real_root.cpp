@@ -151,7 +151,7 @@ bool RealRoot::Write(const GamePath& path, std::span<const std::uint8_t> content
   unlink(place.c_str());
   FileHandle file(place, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW);
   if (!file.IsOpen()) return false;
-  const bool written = file.WriteAll(contents);
+  const bool written = file.WriteAll(std::as_bytes(contents));
   if (file.Close() && written) return true;
   unlink(place.c_str());
   return false;

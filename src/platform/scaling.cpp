@@ -1,7 +1,7 @@
 #include "platform/scaling.h"
 
 #include <algorithm>
-#include <array>
+#include <cmath>
 
 namespace coilrun {
 namespace {
@@ -17,8 +17,8 @@ Area PictureArea(int windowWidth, int windowHeight) {
                               static_cast<double>(windowHeight) / kScreenHeight);
   const double whole = static_cast<int>(fit);
   const double scale = whole >= fit * kWellFilled ? whole : fit;
-  const int width = std::max(1, static_cast<int>(kScreenWidth * scale + 0.5));
-  const int height = std::max(1, static_cast<int>(kScreenHeight * scale + 0.5));
+  const int width = std::max(1, static_cast<int>(std::lround(kScreenWidth * scale)));
+  const int height = std::max(1, static_cast<int>(std::lround(kScreenHeight * scale)));
   return {(windowWidth - width) / 2, (windowHeight - height) / 2, width, height};
 }
 
@@ -37,7 +37,9 @@ void Scaler::Draw(ScreenPixels screen, const RowRange& canvasRows, const Area& a
   int aboveRow = -1;
   for (int y = canvasRows.first; y < canvasRows.end; ++y) {
     const int screenRow = y * kScreenHeight / area.height;
-    const auto start = static_cast<std::size_t>((area.y + y) * canvas.stride + area.x);
+    const auto start =
+        static_cast<std::size_t>(area.y + y) * static_cast<std::size_t>(canvas.stride) +
+        static_cast<std::size_t>(area.x);
     const auto row = canvas.pixels.subspan(start, width);
     if (screenRow == aboveRow) {
       std::copy(above.begin(), above.end(), row.begin());

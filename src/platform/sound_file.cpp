@@ -8,9 +8,12 @@
 namespace coilrun {
 namespace {
 
-bool TakesText(ByteReader& reader, std::string_view text) {
-  const auto bytes = reader.Take(text.size());
+bool IsText(std::span<const std::uint8_t> bytes, std::string_view text) {
   return std::equal(bytes.begin(), bytes.end(), text.begin(), text.end());
+}
+
+bool TakesText(ByteReader& reader, std::string_view text) {
+  return IsText(reader.Take(text.size()), text);
 }
 
 struct WaveFormat {
@@ -80,12 +83,12 @@ std::optional<double> WaveSeconds(std::span<const std::uint8_t> file) {
   while (reader.Left() >= 8) {
     const auto name = reader.Take(4);
     const std::size_t size = reader.U32();
-    const std::string_view text(reinterpret_cast<const char*>(name.data()), name.size());
     const auto chunk = reader.Take(std::min(size, reader.Left()));
-    if (text == "fmt ") format = ReadFormat(chunk);
-    if (text == "data") {
-      const std::size_t frames = chunk.size() / std::max(1, format.channels * format.bits / 8);
-      if (!IsPlayable(format) || chunk.size() < size || frames == 0) return std::nullopt;
+    if (IsText(name, "fmt ")) format = ReadFormat(chunk);
+    if (IsText(name, "data")) {
+      if (!IsPlayable(format) || chunk.size() < size) return std::nullopt;
+      const std::size_t frames = chunk.size() / (std::size_t{format.channels} * format.bits / 8);
+      if (frames == 0) return std::nullopt;
       return static_cast<double>(frames) / format.rate;
     }
     if (size % 2 == 1) reader.Skip(1);

@@ -64,6 +64,7 @@ bool IsSoftwareName(std::string_view name) {
 std::string_view OpenGlRendererName() {
   constexpr unsigned kGlRenderer = 0x1F01;
   using GetString = const char* (*)(unsigned name);
+  // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): SDL gives functions as void*.
   const auto getString = reinterpret_cast<GetString>(SDL_GL_GetProcAddress("glGetString"));
   const char* const name = getString == nullptr ? nullptr : getString(kGlRenderer);
   return name == nullptr ? std::string_view() : std::string_view(name);

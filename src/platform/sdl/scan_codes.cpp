@@ -1,7 +1,7 @@
 #include "platform/sdl/scan_codes.h"
 
 #include <algorithm>
-#include <iterator>
+#include <array>
 
 #include "platform/arrow_codes.h"
 
@@ -13,7 +13,7 @@ struct KeyCode {
   int code;
 };
 
-constexpr KeyCode kKeyCodes[] = {
+constexpr auto kKeyCodes = std::to_array<KeyCode>({
     {SDL_SCANCODE_ESCAPE, 1},
     {SDL_SCANCODE_1, 2},
     {SDL_SCANCODE_2, 3},
@@ -120,14 +120,14 @@ constexpr KeyCode kKeyCodes[] = {
     {SDL_SCANCODE_LGUI, 219},
     {SDL_SCANCODE_RGUI, 220},
     {SDL_SCANCODE_APPLICATION, 221},
-};
+});
 
 }  // namespace
 
 int ScanCodeOf(SDL_Scancode key) {
-  const auto* const found = std::find_if(std::begin(kKeyCodes), std::end(kKeyCodes),
+  const auto* const found = std::find_if(kKeyCodes.begin(), kKeyCodes.end(),
                                          [&](const KeyCode& entry) { return entry.key == key; });
-  return found == std::end(kKeyCodes) ? 0 : found->code;
+  return found == kKeyCodes.end() ? 0 : found->code;
 }
 
 }  // namespace coilrun

@@ -1,5 +1,7 @@
 #include "platform/sdl/sdl_text.h"
 
+#include <array>
+#include <cstring>
 #include <map>
 #include <set>
 #include <tuple>
@@ -19,11 +21,11 @@ struct Face {
   const char* bold;
 };
 
-constexpr Face kFaces[] = {
+constexpr auto kFaces = std::to_array<Face>({
     {"Balloon", "ComicNeue-Bold", "ComicNeue-Bold"},
     {"Courier New", "LiberationMono-Regular", "LiberationMono-Bold"},
     {"Arial", "LiberationSans-Regular", "LiberationSans-Bold"},
-};
+});
 constexpr const Face& kSansFace = kFaces[2];
 
 const Face& FaceOf(std::string_view name) {
@@ -51,10 +53,12 @@ TextMask MaskOf(const SDL_Surface& surface) {
   TextMask mask{surface.w, surface.h, {}};
   mask.coverage.reserve(static_cast<std::size_t>(surface.w) * static_cast<std::size_t>(surface.h));
   const auto* const bytes = static_cast<const std::uint8_t*>(surface.pixels);
+  std::vector<std::uint32_t> row(static_cast<std::size_t>(surface.w));
   for (int y = 0; y < surface.h; ++y) {
-    const auto* const row = reinterpret_cast<const std::uint32_t*>(bytes + y * surface.pitch);
-    for (int x = 0; x < surface.w; ++x)
-      mask.coverage.push_back(static_cast<std::uint8_t>(row[x] >> 24U));
+    const auto start = static_cast<std::size_t>(y) * static_cast<std::size_t>(surface.pitch);
+    std::memcpy(row.data(), bytes + start, row.size() * sizeof(std::uint32_t));
+    for (const std::uint32_t pixel : row)
+      mask.coverage.push_back(static_cast<std::uint8_t>(pixel >> 24U));
   }
   return mask;
 }
@@ -114,9 +118,10 @@ class SdlText::Fonts {
     if (!ready_ || points <= 0) return nullptr;
     const auto [entry, isNew] = fonts_.try_emplace({name, points});
     Font& font = entry->second;
-    for (const char* const ending : {".ttf", ".otf"})
+    for (const char* const ending : {".ttf", ".otf"}) {
       if (isNew && !font)
         font.reset(TTF_OpenFont((folder_ / (name + ending)).c_str(), PixelSize(points)));
+    }
     if (!font && missing_.insert(name).second)
       report_("The font " + (folder_ / name).string() + " cannot be opened");
     return font.get();

@@ -29,10 +29,11 @@ class SurfacePresenter : public Presenter {
     area_ = area;
     forgotten_ = false;
     const SDL_Rect band{area.x, area.y + rows.first, area.width, rows.end - rows.first};
-    if (anew)
+    if (anew) {
       SDL_UpdateWindowSurface(&window_);
-    else
+    } else {
       SDL_UpdateWindowSurfaceRects(&window_, &band, 1);
+    }
   }
 
   bool Waits() const override { return false; }
@@ -58,9 +59,9 @@ class SurfacePresenter : public Presenter {
     scaler_.Draw(picture, rows, local, {converted_, area.width});
     const auto skipped =
         static_cast<std::size_t>(rows.first) * static_cast<std::size_t>(area.width);
-    auto* const target = static_cast<std::uint8_t*>(surface.pixels) +
-                         (area.y + rows.first) * surface.pitch +
-                         area.x * surface.format->BytesPerPixel;
+    const std::ptrdiff_t start = std::ptrdiff_t{area.y + rows.first} * surface.pitch +
+                                 std::ptrdiff_t{area.x} * surface.format->BytesPerPixel;
+    auto* const target = static_cast<std::uint8_t*>(surface.pixels) + start;
     SDL_ConvertPixels(area.width, rows.end - rows.first, SDL_PIXELFORMAT_RGB888,
                       converted_.data() + skipped, area.width * kPixelSize, surface.format->format,
                       target, surface.pitch);
