@@ -149,17 +149,16 @@ TEST(GameOver, OverwritesOneEntryAndShiftsNone) {
 TEST(WaitForKey, EndsOnItsKeyOrWhenAborted) {
   for (const bool abort : {false, true}) {
     Field field;
-    int draws = 0;
+    field.host.pressesEnter = false;
     field.host.onYield = [&] {
-      if (++draws < 3) field.state.keys.LastKey = 57;
-      if (draws == 3 && abort) {
-        field.state.keys.LastKey = 57;
-        field.state.shell.WaitAborted = true;
-      }
+      if (field.host.yields == 2) field.state.keys.LastKey = 57;
+      if (field.host.yields < 3) return;
+      field.state.shell.WaitAborted = abort;
+      if (!abort) field.state.keys.LastKey = kEnterKey;
     };
     field.state.keys.LastKey = kEnterKey;
     WaitForKey(field.game, kEnterKey);
-    EXPECT_EQ(draws, 3) << "an earlier Enter does not count";
+    EXPECT_EQ(field.host.overlays.size(), 3U) << "an earlier Enter does not count";
     EXPECT_FALSE(field.state.shell.WaitAborted);
     EXPECT_TRUE(field.state.shell.lvlTime);
   }

@@ -33,7 +33,7 @@ class RecordingHost : public GameHost {
   }
   void Yield() override {
     ++yields;
-    if (state_.shell.WaitingForKey) state_.keys.LastKey = 28;
+    if (pressesEnter && state_.shell.WaitingForKey) state_.keys.LastKey = 28;
     if (onYield) onYield();
   }
   void LoadLevel(const std::string& path) override {
@@ -51,6 +51,7 @@ class RecordingHost : public GameHost {
   std::vector<std::string> screen;  ///< the centred texts drawn last, each after its Y
   std::vector<WaitOverlay> overlays;
   std::function<void()> onYield;
+  bool pressesEnter = true;
   int yields = 0;
   int storedInterval = 100;
 
