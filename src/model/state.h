@@ -153,7 +153,7 @@ struct SettingsState {
   bool NewInstall = true;
   double SpeedGain = 0;
   Int16 PrevInterval;
-  Int32 SpeedTicks;  ///< ticks of the level clock since the "Speed!" option last made a step
+  Int32 SpeedTicks;  ///< ticks of the level clock since the level started
 };
 
 /// The items of one kind. A level that failed to load can leave a count that is larger than the
