@@ -19,6 +19,10 @@ FileHandle::FileHandle(const std::filesystem::path& file, int flags)
     // NOLINTNEXTLINE(cppcoreguidelines-pro-type-vararg): the system call has no other form.
     : descriptor_(open(file.c_str(), flags | O_CLOEXEC, kPermissions)) {}
 
+FileHandle::FileHandle(const FileHandle& folder, const std::filesystem::path& name, int flags)
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-vararg): the system call has no other form.
+    : descriptor_(openat(folder.descriptor_, name.c_str(), flags | O_CLOEXEC, kPermissions)) {}
+
 bool FileHandle::ReadAll(Bytes& contents, std::size_t limit) const {
   struct stat status {};
   if (fstat(descriptor_, &status) != 0 || std::cmp_greater(status.st_size, limit)) return false;

@@ -15,6 +15,8 @@ class FileHandle {
   FileHandle() = default;
   /// Opens with the flags of open(2), never handing the file on to other programs.
   FileHandle(const std::filesystem::path& file, int flags);
+  /// The same for what lies in an open folder.
+  FileHandle(const FileHandle& folder, const std::filesystem::path& name, int flags);
   ~FileHandle() { Close(); }
   FileHandle(const FileHandle&) = delete;
   FileHandle& operator=(const FileHandle&) = delete;

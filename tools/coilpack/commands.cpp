@@ -39,7 +39,7 @@ std::optional<RarReader> OpenArchive(const PackOptions& options) {
   return RarReader(std::move(*file), options.password);
 }
 
-constexpr char kUnreadable[] = "cannot be read";
+constexpr const char* kUnreadable = "cannot be read";
 
 int FinishWalk(const PackOptions& options, const RarReader& reader, int code) {
   return reader.Fault().empty() ? code : Complain(options.archive, reader.Fault());

@@ -3,10 +3,11 @@
 #include <algorithm>
 #include <chrono>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <limits>
 
+#include <fcntl.h>
+
+#include "platform/file_handle.h"
 #include "platform/rar/entry_name.h"
 #include "platform/rar/rar_entry.h"
 #include "ports/windows_1252.h"
@@ -32,7 +33,7 @@ std::string KindProblem(const fs::directory_entry& entry, const std::string& nam
 
 /// Fills in one source; returns what keeps it from being packed.
 std::string Describe(const fs::directory_entry& entry, RarSource& source) {
-  const std::string problem = KindProblem(entry, source.name);
+  std::string problem = KindProblem(entry, source.name);
   if (!problem.empty()) return problem;
   source.folder = entry.is_directory();
   source.mtime = ModifiedSeconds(entry.path());
@@ -75,12 +76,8 @@ SourceFolder ReadSourceFolder(const std::string& folder, const std::string& arch
 std::optional<Bytes> ReadWholeFile(const std::string& file) {
   std::error_code fault;
   if (!fs::is_regular_file(file, fault)) return std::nullopt;
-  const auto size = fs::file_size(file, fault);
-  if (fault || size > kMaxEntrySize) return std::nullopt;
-  std::ifstream stream(file, std::ios::binary);
-  Bytes contents(size);
-  stream.read(reinterpret_cast<char*>(contents.data()), static_cast<std::streamsize>(size));
-  if (!stream || static_cast<std::uintmax_t>(stream.gcount()) != size) return std::nullopt;
+  Bytes contents;
+  if (!FileHandle(file, O_RDONLY).ReadAll(contents, kMaxEntrySize)) return std::nullopt;
   return contents;
 }
 

@@ -6,24 +6,9 @@
 #include <string>
 #include <string_view>
 
+#include "platform/file_handle.h"
+
 namespace coilrun {
-
-/// An open file or folder of the machine, closed in the end.
-class OpenFile {
- public:
-  explicit OpenFile(int number) : number_(number) {}
-  OpenFile(OpenFile&& other) noexcept;
-  OpenFile& operator=(OpenFile&& other) noexcept;
-  OpenFile(const OpenFile&) = delete;
-  OpenFile& operator=(const OpenFile&) = delete;
-  ~OpenFile();
-
-  bool Ok() const { return number_ >= 0; }
-  int Number() const { return number_; }
-
- private:
-  int number_;
-};
 
 /// The folder that an archive is unpacked into. Nothing outside is ever touched: links on the way
 /// are refused, and a link in place of a file is replaced, not followed.
@@ -32,14 +17,14 @@ class TargetFolder {
   /// Makes the folder, and those above it, when it is missing.
   explicit TargetFolder(const std::string& folder);
 
-  bool Ok() const { return root_.Ok(); }
+  bool Ok() const { return root_.IsOpen(); }
   /// `name` is relative, with slashes or backslashes, and harmless. Both return what went wrong.
   std::string MakeFolder(std::string_view name);
   std::string Write(std::string_view name, std::span<const std::uint8_t> contents,
                     std::optional<std::int64_t> mtime);
 
  private:
-  OpenFile root_;
+  FileHandle root_;
 };
 
 }  // namespace coilrun

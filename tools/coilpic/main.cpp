@@ -19,8 +19,7 @@ bool IsPng(const fs::path& file) {
 
 bool Write(const fs::path& file, const coilrun::Bytes& contents) {
   std::ofstream stream(file, std::ios::binary);
-  stream.write(reinterpret_cast<const char*>(contents.data()),
-               static_cast<std::streamsize>(contents.size()));
+  stream << std::string(contents.begin(), contents.end());
   return static_cast<bool>(stream.flush());
 }
 

@@ -1,5 +1,7 @@
 #include "png_picture.h"
 
+#include <iterator>
+
 #include <png.h>
 
 namespace coilrun {
@@ -19,7 +21,7 @@ Picture ReadPng(const std::string& file) {
   image.version = PNG_IMAGE_VERSION;
   Picture picture;
   if (png_image_begin_read_from_file(&image, file.c_str()) == 0) {
-    picture.problem = image.message;
+    picture.problem = std::data(image.message);
     return picture;
   }
   if (image.width > kLargestSide || image.height > kLargestSide) {
@@ -33,7 +35,7 @@ Picture ReadPng(const std::string& file) {
   picture.pixels.resize(PNG_IMAGE_SIZE(image));
   const png_color black{};
   if (png_image_finish_read(&image, &black, picture.pixels.data(), 0, nullptr) == 0)
-    picture.problem = image.message;
+    picture.problem = std::data(image.message);
   return picture;
 }
 

@@ -178,10 +178,13 @@ class Walk {
     const auto checked = comment ? header.first(std::min(header.size(), kMainSize)) : header;
     if (!CrcFits(checked, start.crc)) return StopDamaged();
     if (start.type == rar4::kMain) return BeginArchive(start);
-    if (start.type == rar4::kEnd)
-      return Stop(
-          (start.flags & rar4::kMoreVolumes) != 0 ? "the archive continues in another volume" : "");
+    if (start.type == rar4::kEnd) return End(start);
     Pass(start.dataSize);
+  }
+
+  void End(const BlockStart& start) {
+    const bool more = (start.flags & rar4::kMoreVolumes) != 0;
+    Stop(more ? "the archive continues in another volume" : "");
   }
 
   void BeginArchive(const BlockStart& start) {
@@ -196,8 +199,9 @@ class Walk {
     const bool comment = (start.flags & rar4::kFileComment) != 0;
     const auto checked = comment ? header.first(file.checkedSize) : header;
     if (!reader.Ok() || !CrcFits(checked, start.crc)) return StopDamaged();
+    const std::uint64_t dataSize = file.dataSize;
     if (start.type == rar4::kFile) Add(std::move(file));
-    if (!done_) Pass(file.dataSize);
+    if (!done_) Pass(dataSize);
   }
 
   void Add(FileHeader file) {

@@ -26,10 +26,11 @@ struct RarHeaderResult {
   std::string fault;
 };
 
-inline constexpr char kCutOff[] = "the archive is cut off";
-inline constexpr char kDamaged[] = "a header is damaged";
-inline constexpr char kDamagedOrWrongPassword[] = "wrong password or a damaged header";
-inline constexpr char kTooManyKeys[] = "the archive asks for too much work to check its password";
+inline constexpr const char* kCutOff = "the archive is cut off";
+inline constexpr const char* kDamaged = "a header is damaged";
+inline constexpr const char* kDamagedOrWrongPassword = "wrong password or a damaged header";
+inline constexpr const char* kTooManyKeys =
+    "the archive asks for too much work to check its password";
 
 template <std::size_t kCount>
 std::array<std::uint8_t, kCount> TakeArray(ByteReader& reader) {

@@ -141,7 +141,7 @@ std::string RarReader::PrepareUnpacker(std::size_t index) {
   for (const std::size_t member : group) {
     const RarEntry& entry = Entries()[member];
     const RarPacked& packed = entry.packed;
-    const std::string problem = PasswordProblem(packed);
+    std::string problem = PasswordProblem(packed);
     if (!problem.empty()) return problem;
     CompressedItem item{entry.size,     packed.crc.value_or(0), packed.method,
                         packed.version, packed.window,          Decrypt(packed)};

@@ -58,7 +58,7 @@ Bytes RepackRar4(const CompressedItem& item) {
   file.U32(item.crc);
   file.U32(0);
   file.U8(static_cast<std::uint64_t>(item.version));
-  file.U8(static_cast<std::uint64_t>(rar4::kStored + item.method));
+  file.U8(rar4::kStored + static_cast<unsigned>(item.method));
   file.U16(1);
   file.U32(0100644);
   file.U8(kName);

@@ -22,8 +22,8 @@ struct Cipher {
   Rar5Keys keys;
 };
 
-std::span<const std::uint8_t> BytesOf(const std::string& text) {
-  return {reinterpret_cast<const std::uint8_t*>(text.data()), text.size()};
+Bytes BytesOf(const std::string& text) {
+  return {text.begin(), text.end()};
 }
 
 template <std::size_t kCount>
