@@ -1,0 +1,241 @@
+#include "level_checker.h"
+
+#include <algorithm>
+#include <array>
+#include <cctype>
+
+#include "content/lines.h"
+#include "model/numbers.h"
+#include "model/state.h"
+
+namespace coilrun {
+namespace {
+
+/// Fills a column of the map without placing anything.
+constexpr std::string_view kFiller = "_";
+constexpr int kColumns = 32;
+constexpr std::array<std::string_view, 4> kTypes = {"wall", "wall_no_tnt", "ani_wall",
+                                                    "ani_wall_no_tnt"};
+
+std::string Quoted(std::string_view text) {
+  return "\"" + std::string{text} + "\"";
+}
+
+bool StartsIgnoringCase(std::string_view text, std::string_view start) {
+  return text.size() >= start.size() &&
+         std::equal(start.begin(), start.end(), text.begin(), [](unsigned char a, unsigned char b) {
+           return std::tolower(a) == std::tolower(b);
+         });
+}
+
+bool IsItemCount(LevelKey key) {
+  return key <= LevelKey::kNumPower;
+}
+
+int LimitOf(CellKind kind) {
+  if (kind == CellKind::kWall) return kMaxWalls;
+  return kind == CellKind::kUserItem ? kMaxUserItems : kMaxSpawnPoints;
+}
+
+}  // namespace
+
+std::vector<Finding> LevelChecker::Check(std::string_view text) {
+  LineReader lines(text);
+  while (const auto line = lines.Next()) {
+    ++line_;
+    const KeyDef* key = CheckKey(*line);
+    if (line_ <= kMapRows) CheckRow(*line, key != nullptr);
+    if (key == nullptr) CheckNoKey(*line);
+  }
+  CheckWhole();
+  return findings_;
+}
+
+void LevelChecker::CheckRow(std::string_view line, bool isKeyLine) {
+  ScanRow(line, [&](int column, std::string_view word) {
+    CheckCell(column, word, isKeyLine);
+    return true;
+  });
+  if (!isKeyLine) CheckOpenEnd(line);
+}
+
+void LevelChecker::CheckCell(int column, std::string_view word, bool isKeyLine) {
+  const auto code = CodeOf(word);
+  if (!code) {
+    if (!isKeyLine && word != kFiller) Warn("the word " + Quoted(word) + " places nothing");
+    return;
+  }
+  if (isKeyLine) Warn("this key line is a map row too: " + Quoted(word) + " is placed");
+  if (column > kColumns) Warn(Quoted(word) + " lies outside the field");
+  if (code->kind == CellKind::kStart) {
+    lastStart_ = code->snake;
+    highestStart_ = std::max(highestStart_, code->snake);
+  } else {
+    Count(code->kind, code->letter);
+  }
+}
+
+/// The cell behind the last blank that the game examines is never closed.
+void LevelChecker::CheckOpenEnd(std::string_view line) {
+  if (line.empty()) return;
+  const std::string_view examined = line.substr(0, line.size() - 1);
+  const std::size_t blank = examined.rfind(' ');
+  std::string_view open = line.substr(blank == examined.npos ? 0 : blank + 1);
+  if (open.ends_with(' ')) open.remove_suffix(1);
+  if (CodeOf(open)) {
+    Warn("the last cell " + Quoted(open) +
+         " places nothing: a blank and one more character are missing");
+  }
+}
+
+void LevelChecker::Count(CellKind kind, char letter) {
+  if (++counts_[kind] == LimitOf(kind) + 1) {
+    constexpr std::array<std::string_view, 4> kThings = {"walls", "", "user items", "spawn points"};
+    Refuse("more than " + std::to_string(LimitOf(kind)) + " " +
+           std::string{kThings.at(static_cast<std::size_t>(kind))});
+  }
+  if (kind == CellKind::kUserItem) letters_.try_emplace(letter, Letter{line_});
+}
+
+const KeyDef* LevelChecker::CheckKey(std::string_view line) {
+  for (const KeyDef& def : LevelKeys()) {
+    if (!HasKey(def, line)) continue;
+    const auto value = ReadValue(def, line);
+    if (value) {
+      CheckValue(def, line, *value);
+    } else {
+      Refuse("no value that " + Quoted(def.text) + " can take");
+    }
+    const bool accumulates = def.key == LevelKey::kRequires || def.kind == ValueKind::kUserItem;
+    int& before = lines_[def.key];
+    if (before != 0 && !accumulates) {
+      Warn(Quoted(def.text) + " again: line " + std::to_string(before) + " has no effect");
+    }
+    before = line_;
+    return &def;
+  }
+  return nullptr;
+}
+
+void LevelChecker::CheckValue(const KeyDef& def, std::string_view line, const LevelValue& value) {
+  std::string_view rest = line.substr(def.text.size());
+  if (def.skipsOne) {
+    if (rest[0] != ' ') {
+      Warn("the first character after " + Quoted(def.text) + " is skipped: put a blank there");
+    }
+    rest.remove_prefix(1);
+  }
+  switch (def.kind) {
+    case ValueKind::kInteger:
+    case ValueKind::kLong:
+    case ValueKind::kReal:
+      CheckNumber(def, rest, value);
+      break;
+    case ValueKind::kTrueFlag:
+      if (!value.flag && rest != "False") Warn("only " + Quoted("True") + " switches this on");
+      break;
+    case ValueKind::kText:
+    case ValueKind::kName:
+      CheckName(def, value.text);
+      break;
+    case ValueKind::kUserItem:
+      CheckUserItem(def, value);
+      break;
+    case ValueKind::kBoolean:
+      break;
+  }
+}
+
+void LevelChecker::CheckNumber(const KeyDef& def, std::string_view rest, const LevelValue& value) {
+  if (WholeNumber(rest) != value.number) {
+    Warn(Quoted(rest) + " is read as " + NumberText(value.number));
+  }
+  CheckRange(def, value.number);
+}
+
+void LevelChecker::CheckRange(const KeyDef& def, double number) {
+  if (IsItemCount(def.key) && number > kMaxItems) {
+    Refuse("more than " + std::to_string(kMaxItems) + " items of a kind");
+  }
+  if (def.key != LevelKey::kAIS) {
+    if (number < 0) Warn("a number below 0");
+    return;
+  }
+  aiSnakes_ = number;
+  if (!ToInt16(number + 1)) Refuse("a number of snakes beyond all limits");
+}
+
+void LevelChecker::CheckName(const KeyDef& def, std::string_view text) {
+  if (text.empty()) {
+    Warn("no name after " + Quoted(def.text));
+  } else if (def.key == LevelKey::kBkgPic && !pictures_.Has(std::string{text})) {
+    Warn("there is no picture " + Quoted(text));
+  }
+  if (def.key != LevelKey::kRequires) return;
+  constexpr int kMaxArchives = decltype(LevelState::RequiredArchives)::kSize;
+  if (++archives_ == kMaxArchives + 1) {
+    Refuse("more than " + std::to_string(kMaxArchives) + " archives");
+  }
+  if (!text.ends_with(".snr")) Warn("only names that end in \".snr\" are unpacked");
+}
+
+void LevelChecker::CheckUserItem(const KeyDef& def, const LevelValue& value) {
+  if (value.letter == 0) {
+    Warn("ignored: it wants a lower-case letter, one character and a text");
+    return;
+  }
+  const auto found = letters_.find(value.letter);
+  if (found == letters_.end()) {
+    Warn("ignored: the map above has no such letter");
+    return;
+  }
+  Letter& letter = found->second;
+  if (def.key == LevelKey::kSet) {
+    // Behind an archive of the level there may be any picture.
+    letter.hasPicture = archives_ > 0 || pictures_.Has(std::string{value.text});
+    if (!letter.hasPicture) Warn("ignored: there is no picture " + Quoted(value.text));
+    return;
+  }
+  if (letter.hasPicture) Warn("ignored: \"let:\" must come before \"set:\" of the same letter");
+  letter.hasType = !letter.hasPicture;
+  if (std::find(kTypes.begin(), kTypes.end(), value.text) == kTypes.end()) {
+    Warn(Quoted(value.text) + " is no type of user item");
+  }
+}
+
+void LevelChecker::CheckNoKey(std::string_view line) {
+  const std::size_t start = std::min(line.find_first_not_of(" \t"), line.size());
+  const std::string_view word = line.substr(start);
+  for (const KeyDef& def : LevelKeys()) {
+    if (StartsIgnoringCase(word, def.text)) {
+      Warn("ignored: a line must begin with exactly " + Quoted(def.text));
+      return;
+    }
+  }
+  const std::size_t equals = word.find('=');
+  const bool looksLikeAKey = equals != word.npos && word.find(' ') > equals;
+  if (line_ > kMapRows && looksLikeAKey) {
+    Warn("ignored: there is no key " + Quoted(word.substr(0, equals + 1)));
+  }
+}
+
+void LevelChecker::CheckWhole() {
+  for (const auto& [name, letter] : letters_) {
+    line_ = letter.line;
+    const std::string shown(1, static_cast<char>(std::tolower(static_cast<unsigned char>(name))));
+    if (!letter.hasPicture) Warn("the user item " + Quoted(shown) + " gets no picture");
+    if (letter.hasPicture && !letter.hasType) {
+      Warn("the user item " + Quoted(shown) + " gets no type and stays invisible");
+    }
+  }
+  if (aiSnakes_ <= 0) return;
+  line_ = lines_[LevelKey::kAIS];
+  if (lastStart_ < highestStart_) {
+    Warn("the start that is read last is that of snake " + std::to_string(lastStart_) +
+         ": no more snakes take part");
+  } else if (aiSnakes_ + 1 > lastStart_) {
+    Warn("the map has starts for " + std::to_string(lastStart_) + " snakes only");
+  }
+}
+
+}  // namespace coilrun

@@ -1,0 +1,61 @@
+#include "pictures.h"
+
+#include <algorithm>
+#include <cctype>
+
+#include "content/archives.h"
+#include "platform/disk_files.h"
+#include "platform/rar/rar_archive.h"
+
+namespace coilrun {
+namespace {
+
+std::string NormalName(std::string name) {
+  for (char& character : name) {
+    character = character == '/'
+                    ? '\\'
+                    : static_cast<char>(std::tolower(static_cast<unsigned char>(character)));
+  }
+  return name;
+}
+
+/// The name and every folder in front of it.
+void AddWithFolders(std::set<std::string>& names, const std::string& name) {
+  for (std::size_t end = name.find('\\'); end != name.npos; end = name.find('\\', end + 1)) {
+    names.insert(name.substr(0, end));
+  }
+  names.insert(name);
+}
+
+}  // namespace
+
+Pictures::Pictures(const std::filesystem::path& levelFile) {
+  const std::filesystem::path folder =
+      std::filesystem::absolute(levelFile).parent_path().parent_path();
+  std::error_code ignored;
+  const std::filesystem::path loose = folder / "gfx";
+  for (auto entry = std::filesystem::recursive_directory_iterator(loose, ignored);
+       !ignored && entry != std::filesystem::recursive_directory_iterator();
+       entry.increment(ignored)) {
+    AddWithFolders(names_, NormalName(entry->path().lexically_relative(loose).string()));
+    known_ = true;
+  }
+  DiskFiles files(folder, std::nullopt);
+  RarArchive archive(files);
+  if (!archive.Open(".\\gfx.snr")) return;
+  known_ = true;
+  archive.SetPassword(std::string{kArchivePassword});
+  constexpr std::string_view kFolder = "gfx\\";
+  while (const auto header = archive.ReadHeader()) {
+    const std::string name = NormalName(*header);
+    if (name.starts_with(kFolder)) AddWithFolders(names_, name.substr(kFolder.size()));
+    archive.ProcessFile(std::nullopt);
+  }
+  archive.Close();
+}
+
+bool Pictures::Has(const std::string& name) const {
+  return !known_ || names_.count(NormalName(name)) != 0;
+}
+
+}  // namespace coilrun

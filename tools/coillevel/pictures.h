@@ -1,0 +1,25 @@
+#pragma once
+
+#include <filesystem>
+#include <set>
+#include <string>
+
+namespace coilrun {
+
+/// The pictures that a level may name: those of the program folder that its file lies in
+/// (FOLDER/lvl/FILE), loose or packed in gfx.snr.
+class Pictures {
+ public:
+  explicit Pictures(const std::filesystem::path& levelFile);
+
+  /// False when the level lies in no program folder; any picture may exist then.
+  bool Known() const { return known_; }
+  /// True when a picture or a folder of pictures may exist below the gfx folder.
+  bool Has(const std::string& name) const;
+
+ private:
+  bool known_ = false;
+  std::set<std::string> names_;  ///< in lower case, with backslashes
+};
+
+}  // namespace coilrun
