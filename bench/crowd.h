@@ -46,10 +46,11 @@ inline void PutSnakes(State& state, const Crowd& crowd) {
   }
 }
 
+/// Walls in the order of the map, as a level lists them.
 inline void PutWalls(State& state, const Crowd& crowd) {
   state.numWalls = crowd.walls;
   for (int w = 1; w <= crowd.walls; ++w) {
-    const Point at = FieldCell(7 * w);
+    const Point at = FieldCell(w);
     state.Walls(w) = {at.x, at.y, true, static_cast<WallKind>(1 + w % 7)};
   }
 }

@@ -5,6 +5,20 @@
 #include "ports/screen.h"
 
 namespace coilrun {
+namespace {
+
+void FillGroup(OpaquePieces& pieces) {
+  if (pieces.places.empty()) return;
+  const std::size_t size = pieces.pixels.size() / pieces.places.size();
+  while (pieces.places.size() % kPieceGroup != 0) {
+    pieces.places.push_back(pieces.places.back());
+    for (std::size_t i = 0; i < size; ++i) {
+      pieces.pixels.push_back(pieces.pixels[pieces.pixels.size() - size]);
+    }
+  }
+}
+
+}  // namespace
 
 Picture::Picture(Bitmap bitmap, KeyMode key) : bitmap_(std::move(bitmap)), key_(key) {
   for (int y = 0; y < Height(); ++y) {
@@ -16,21 +30,31 @@ Picture::Picture(Bitmap bitmap, KeyMode key) : bitmap_(std::move(bitmap)), key_(
       ++x;
     }
   }
+  FillGroup(eights_);
+  FillGroup(fours_);
+  FillGroup(twos_);
+  FillGroup(ones_);
 }
 
-/// Cuts a run into pieces. The last piece of four or two reaches back over the one before it rather
-/// than leave a rest: a few pixels are copied twice, but in fewer steps.
+/// Cuts a run into pieces, the largest first. A rest of three pixels or of five to seven is copied
+/// by a piece that reaches back over pixels copied before: a few pixels twice, but in fewer steps.
 void Picture::AddRun(int x, int y, int length) {
   opaque_ += length;
   const int end = x + length;
-  if (length == 1) {
-    AddPiece(ones_, 1, x, y);
-  } else if (length < 4) {
+  for (; x + 8 <= end; x += 8) AddPiece(eights_, 8, x, y);
+  const int rest = end - x;
+  if (rest > 4 && length >= 8) {
+    AddPiece(eights_, 8, end - 8, y);
+  } else if (rest > 4) {
+    AddPiece(fours_, 4, x, y);
+    AddPiece(fours_, 4, end - 4, y);
+  } else if (rest >= 3 && length >= 4) {
+    AddPiece(fours_, 4, end - 4, y);
+  } else if (rest >= 2) {
     AddPiece(twos_, 2, x, y);
-    if (length == 3) AddPiece(ones_, 1, end - 1, y);
-  } else {
-    for (; x + 4 <= end; x += 4) AddPiece(fours_, 4, x, y);
-    if (x < end) AddPiece(fours_, 4, end - 4, y);
+    if (rest == 3) AddPiece(ones_, 1, end - 1, y);
+  } else if (rest == 1) {
+    AddPiece(ones_, 1, x, y);
   }
 }
 

@@ -26,9 +26,13 @@ constexpr bool IsTransparent(KeyMode key, Pixel pixel) {
   return (pixel >> 16) <= 10 && (pixel >> 8 & 0xFF) <= 10 && (pixel & 0xFF) <= 10;
 }
 
-/// The opaque pixels of a picture in pieces of four, two and one, so that drawing is three short
-/// loops without a decision inside. `places` are positions on the screen relative to the picture's
-/// top left; `pixels` lie one piece after the other.
+/// Pieces are copied in groups of this many, so that the loops are short.
+inline constexpr std::size_t kPieceGroup = 4;
+
+/// The opaque pixels of a picture in pieces of one size: eight, four, two or one, so that drawing
+/// is four short loops without a decision inside. `places` are positions on the screen relative to
+/// the picture's top left; `pixels` lie one piece after the other. The last piece is repeated until
+/// the groups are full.
 struct OpaquePieces {
   std::vector<std::uint32_t> places;
   std::vector<Pixel> pixels;
@@ -50,6 +54,7 @@ class Picture {
   /// A part as a picture of its own; unset when it does not lie wholly inside.
   Picture Cut(const Rect& part) const;
 
+  const OpaquePieces& Eights() const { return eights_; }
   const OpaquePieces& Fours() const { return fours_; }
   const OpaquePieces& Twos() const { return twos_; }
   const OpaquePieces& Ones() const { return ones_; }
@@ -62,6 +67,7 @@ class Picture {
 
   Bitmap bitmap_;
   KeyMode key_ = KeyMode::kBlack;
+  OpaquePieces eights_;
   OpaquePieces fours_;
   OpaquePieces twos_;
   OpaquePieces ones_;

@@ -15,9 +15,11 @@ constexpr Rect At(const Rect& size, int x, int y) {
 template <std::size_t kSize>
 void CopyPieces(const OpaquePieces& pieces, Pixel* to) {
   const Pixel* from = pieces.pixels.data();
-  for (const std::uint32_t place : pieces.places) {
-    std::memcpy(to + place, from, kSize * sizeof(Pixel));
-    from += kSize;
+  const std::uint32_t* const end = pieces.places.data() + pieces.places.size();
+  for (const std::uint32_t* place = pieces.places.data(); place != end; place += kPieceGroup) {
+    for (std::size_t i = 0; i < kPieceGroup; ++i, from += kSize) {
+      std::memcpy(to + place[i], from, kSize * sizeof(Pixel));
+    }
   }
 }
 
@@ -54,6 +56,7 @@ void Surface::FillRect(const Rect& rect, Color color) {
 void Surface::Blit(const Picture& picture, int x, int y) {
   if (!kScreen.Holds(coilrun::At(picture.Bounds(), x, y))) return;
   Pixel* const to = At(x, y);
+  CopyPieces<8>(picture.Eights(), to);
   CopyPieces<4>(picture.Fours(), to);
   CopyPieces<2>(picture.Twos(), to);
   CopyPieces<1>(picture.Ones(), to);

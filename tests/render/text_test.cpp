@@ -1,0 +1,147 @@
+#include <gmock/gmock.h>
+
+#include "stage.h"
+
+namespace coilrun {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+TEST(BitmapFontWidth, IsWiderThanTheInk) {
+  struct Case {
+    std::string text;
+    int font;
+    int width;
+  };
+  for (const Case& c : std::vector<Case>{{"", 1, 7},
+                                         {"", 3, 5},
+                                         {"AB", 1, 21},
+                                         {"AB", 3, 27},
+                                         {"AB", 2, 27},
+                                         {std::string(9, 'x'), 2, 90},
+                                         {std::string(10, 'x'), 2, 100},
+                                         {std::string(19, 'x'), 2, 181},
+                                         {"7", 5, 18},
+                                         {"A", 6, 16},
+                                         {"A", 0, 0},
+                                         {"A", 7, 0}}) {
+    EXPECT_EQ(BitmapFonts::Width(c.text, c.font), c.width) << c.text << " in " << c.font;
+  }
+}
+
+TEST(GlyphRects, AreOneNarrowerThanTheCellAndRoundHalvesToEven) {
+  EXPECT_EQ(GlyphRect(1, {0, 0}), (Rect{0, 0, 6, 14}));
+  EXPECT_EQ(GlyphRect(2, {10, 0}), (Rect{90, 0, 99, 16})) << "90.5, 98.55 and 16.5";
+  EXPECT_EQ(GlyphRect(2, {11, 1}), (Rect{100, 16, 108, 33}));
+  EXPECT_EQ(GlyphRect(2, {9, 2}), (Rect{81, 33, 90, 50})) << "81.45, 89.5 and 49.5";
+  EXPECT_EQ(GlyphRect(5, {25, 0}), (Rect{418, 0, 433, 24}));
+}
+
+TEST(GlyphCells, HoldLettersDigitsAndThirteenSigns) {
+  struct Case {
+    char character;
+    GlyphCell cell;
+  };
+  for (const Case& c : std::vector<Case>{{'A', {0, 0}},
+                                         {'Z', {25, 0}},
+                                         {'a', {0, 1}},
+                                         {'z', {25, 1}},
+                                         {'0', {0, 2}},
+                                         {'9', {9, 2}},
+                                         {'.', {11, 2}},
+                                         {'=', {19, 2}},
+                                         {'\\', {20, 2}},
+                                         {'?', {23, 2}},
+                                         {' ', {10, 2}},
+                                         {',', {10, 2}},
+                                         {'\xE4', {10, 2}},
+                                         {'\0', {10, 2}}}) {
+    EXPECT_EQ(CellOf(c.character), c.cell) << c.character;
+  }
+}
+
+/// A stage whose font sheets are white all over.
+struct TextStage : Stage {
+  TextStage() {
+    const std::string folder = ".\\gfx\\fonts\\";
+    for (const char* const name : {"fnt_cour_8", "fnt_cour_11", "fnt_sys_8"}) {
+      files.Put(folder + name + ".bmp", Plain(499, 50, 0xFFFFFF));
+    }
+    for (const char* const name : {"fnt_bl_16", "fnt_DM_16"}) {
+      files.Put(folder + name + ".bmp", Plain(439, 133, 0xFFFFFF));
+    }
+    files.Put(folder + "fnt_cour_16.bmp", Plain(439, 140, 0xFFFFFF));
+    renderer.LoadStandardPictures();
+    renderer.FillBack({});
+  }
+  /// First column of each stretch of ink in row `y`.
+  std::vector<int> InkStarts(int y) {
+    std::vector<int> starts;
+    for (int x = 0; x < kScreenWidth; ++x) {
+      if (At(x, y) != 0 && (x == 0 || At(x - 1, y) == 0)) starts.push_back(x);
+    }
+    return starts;
+  }
+};
+
+TEST(BitmapText, PutsGlyphsAtRoundedPlaces) {
+  TextStage stage;
+  TextPainter& text = stage.renderer.Text();
+
+  EXPECT_EQ(text.DrawBmpText("AB", 18, 0, 1), 21);
+  EXPECT_EQ(text.DrawBmpText("aaaaaaaaaaa", 0, 100, 4), 96);
+  EXPECT_EQ(text.DrawBmpText("AA", 10, 200, 5), 30) << "5 left of x, then 11.7 on: 5 and 16.7";
+  EXPECT_EQ(text.DrawBmpText("AB", 0, 300, 7), 0);
+  EXPECT_EQ(text.DrawBmpText("AB", 0, 300, 1, true), 21);
+
+  EXPECT_THAT(stage.InkStarts(0), ElementsAre(18, 25));
+  EXPECT_THAT(stage.InkStarts(100), ElementsAre(0, 8, 16, 24, 32, 40, 48, 56, 64, 72, 80));
+  EXPECT_THAT(stage.InkStarts(200), ElementsAre(5)) << "the second glyph touches the first";
+  EXPECT_THAT(stage.InkStarts(300), IsEmpty());
+  EXPECT_THAT(stage.Drawn(), ElementsAre("18,0 1 AB", "0,100 4 aaaaaaaaaaa", "10,200 5 AA"));
+}
+
+TEST(BitmapText, LeavesOutOnlyTheGlyphsThatLeaveScreenOrSheet) {
+  TextStage stage;
+  stage.renderer.Text().DrawBmpText("xxx", 628, 0, 1);
+  stage.renderer.Text().DrawBmpText("YZ", 100, 100, 3);
+
+  EXPECT_THAT(stage.InkStarts(0), ElementsAre(628)) << "the second would end at 641";
+  EXPECT_THAT(stage.InkStarts(100), ElementsAre(94)) << "the sheet ends inside Z";
+}
+
+TEST(CentredText, RoundsHalvesToEven) {
+  TextStage stage;
+  TextPainter& text = stage.renderer.Text();
+
+  EXPECT_EQ(text.DrawBmpTextCentred("AB", 5, 1), 310) << "320 - 10.5";
+  EXPECT_EQ(text.DrawBmpTextCentred("ABCD", 5, 1), 302) << "320 - 17.5";
+  EXPECT_THAT(stage.Drawn(), ElementsAre("310,5 1 AB", "302,5 1 ABCD"));
+}
+
+TEST(SnakeNames, StandOverTheHeadsWhenAskedFor) {
+  Stage stage;
+  stage.state.mode.NumSnakes = 2;
+  stage.state.Snakes(1).Name = "Ann";
+  stage.state.Snakes(1).X = 101;
+  stage.state.Snakes(1).Y = 50;
+  stage.state.Snakes(2).X = 300;
+  TextPainter& text = stage.renderer.Text();
+
+  text.DrawSnakeNames(false);
+  EXPECT_THAT(stage.Drawn(), IsEmpty());
+  stage.state.keys.KeyPressed = 49;
+  text.DrawSnakeNames(false);
+  stage.state.keys.KeyPressed = 0;
+  text.DrawSnakeNames(true);
+  text.DrawSystemText("next", 1, 1);
+
+  EXPECT_THAT(stage.Drawn(),
+              ElementsAre("102,40 Arial Ann", "102,40 Arial Ann", "1,1 Balloon next"));
+  EXPECT_EQ(stage.At(102, 40), (Color{200, 0, 0}.ToPixel()));
+  EXPECT_EQ(stage.At(1, 1), (Color{150, 0, 0}.ToPixel()));
+}
+
+}  // namespace
+}  // namespace coilrun
