@@ -1,0 +1,125 @@
+#include <gmock/gmock.h>
+
+#include "scenario/game_run.h"
+
+namespace coilrun {
+namespace {
+
+using nlohmann::json;
+using ::testing::SizeIs;
+
+constexpr int kTap = 100;
+
+/// Taps keys one after the other, with time for the menus to follow.
+class Fingers {
+ public:
+  explicit Fingers(int startMillis) : now_(startMillis) {}
+
+  Fingers& Tap(int key, int times = 1) {
+    for (; times > 0; --times) Then("tap " + std::to_string(key), kTap);
+    return *this;
+  }
+  Fingers& Type(const std::string& text) {
+    return Then("type " + text, static_cast<int>(text.size()) * 60 + kTap);
+  }
+  Fingers& Then(const std::string& command, int millis = kTap) {
+    script_.At(now_, command);
+    now_ += millis;
+    return *this;
+  }
+  std::string Text() const { return script_.Text(); }
+
+ private:
+  ScriptText script_;
+  int now_;
+};
+
+constexpr int kUp = 200;
+constexpr int kDown = 208;
+constexpr int kRight = 205;
+constexpr int kEnter = 28;
+constexpr int kEscape = 1;
+constexpr int kF1 = 59;
+
+TEST(Menus, EveryOptionDoesWhatItSaysAndIsFoundAgain) {
+  const ProgramFolder folder;
+  const std::string user = (folder.Home() / "user").string();
+  Fingers change(500);
+  change.Tap(kDown).Tap(kEnter);
+  for (int line = 1; line <= 3; ++line) change.Tap(kRight).Tap(kDown);
+  change.Tap(kEnter).Tap(kDown).Tap(kEnter).Tap(kDown).Tap(kRight).Tap(kDown).Tap(kEnter).Tap(
+      kDown);
+  change.Tap(kEnter).Type("ada 7").Tap(kDown);
+  for (int line = 9; line <= 12; ++line) change.Tap(kEnter).Tap(kDown);
+  change.Tap(kRight).Tap(kDown).Tap(kRight).Tap(kEscape).Then("state").Then("end");
+  const GameRun changed = folder.Play(change.Text(), {"--user", user});
+  const GameRun found = folder.Play("700 state\n700 end", {"--user", user});
+  ASSERT_THAT(changed.states, SizeIs(1)) << changed.errors;
+  ASSERT_THAT(found.states, SizeIs(1)) << found.errors;
+
+  const json expected = {{"MaxSpeed", 31},        {"MinSpeed", 151},        {"GlobalSpeed", 101},
+                         {"NoSpeedReset", true},  {"IncSpeed", true},       {"SpeedRate", 1},
+                         {"ShowFPS", false},      {"AnimatedItems", false}, {"SndEnabled", false},
+                         {"KiSndEnabled", false}, {"MusicEnabled", false},  {"MusicVolume", 31}};
+  for (const auto& [name, value] : expected.items()) {
+    EXPECT_EQ(changed.states[0][name], value) << name;
+    EXPECT_EQ(found.states[0][name], value) << name << " in the second run";
+  }
+  for (const json& state : {changed.states[0], found.states[0]}) {
+    EXPECT_EQ(state["Snakes"][0]["Name"], "ada 7");
+    EXPECT_EQ(state["Snakes"][0]["Model"], 2);
+  }
+}
+
+TEST(Menus, TheCursorWrapsAndExitLeavesNothingUnpacked) {
+  const ProgramFolder folder;
+  Fingers exit(500);
+  exit.Tap(kUp).Then("state").Tap(kEnter);
+  const GameRun run = folder.Play(exit.Text());
+  EXPECT_EQ(run.exitCode, 0) << run.errors;
+  ASSERT_THAT(run.states, SizeIs(1));
+  EXPECT_EQ(run.states[0]["MainCursor"], 4);
+  EXPECT_EQ(run.states[0]["StatusText"], "Exit this cool game");
+  for (const auto& entry : std::filesystem::recursive_directory_iterator(folder.Data())) {
+    const std::string extension = entry.path().extension().string();
+    EXPECT_TRUE(extension != ".snc" && extension != ".wav") << entry.path();
+    EXPECT_TRUE(extension != ".bmp" || entry.path().filename() == "intro.bmp") << entry.path();
+  }
+}
+
+TEST(Menus, TheHiddenCommandLineRepliesAndCheats) {
+  const ProgramFolder folder;
+  Fingers cheat(500);
+  cheat.Tap(kF1).Tap(kEscape, 1).Then("state", 700);
+  cheat.Tap(kDown, 2).Tap(kEnter).Type("god").Then("state").Tap(kEnter).Type("quietfern");
+  for (const char* const line :
+       {"god", "noclip", "timepass", "gives", "givel", "givey3", "givep"}) {
+    cheat.Type(line).Then("state");
+  }
+  cheat.Type("warp03").Then("state").Tap(kEscape, 2).Then("state").Then("end");
+  const GameRun run = folder.Play(cheat.Text(), {"/L=lvl1.dat"});
+  ASSERT_THAT(run.states, SizeIs(11)) << run.errors;
+  EXPECT_EQ(run.states[1]["GodMode"], false) << "locked until the code is typed";
+  const std::vector<std::string> replies = {"GOD mode activated",
+                                            "NoClipping mode activated",
+                                            "NoTimeChecking mode activated",
+                                            "100 pts given...",
+                                            "one live given...",
+                                            "3 items given...",
+                                            "atomic power given...",
+                                            "Level loaded... (Press ESC twice)"};
+  for (std::size_t i = 0; i < replies.size(); ++i) {
+    EXPECT_EQ(run.states[i + 2]["StatusText"], "Cheater! - " + replies[i]);
+    EXPECT_EQ(run.states[i + 2]["CheatLine"], "");
+  }
+  const json& player = run.states[8]["Snakes"][0];
+  EXPECT_EQ(player["Score"], 0) << "100 given, 100 paid for atomic power";
+  EXPECT_EQ(player["Lives"], 4);
+  EXPECT_EQ(player["YellowEaten"], 3);
+  EXPECT_EQ(player["ImmortalSecs"], 20);
+  EXPECT_EQ(run.states[10]["InMenu"], false);
+  EXPECT_EQ(run.states[10]["Cheated"], true);
+}
+
+}  // namespace
+}  // namespace coilrun
