@@ -195,6 +195,28 @@ TEST(RarReader, ReadsSolidEntriesInAnyOrder) {
   }
 }
 
+TEST(RarReader, TellsWhichSolidEntriesAreLost) {
+  MadeArchive archive;
+  archive.entries = {Compressed(5, "1.bmp", "0123456789abcdef"), Compressed(5, "2.bmp", "x"),
+                     Compressed(5, "3.bmp", "y")};
+  archive.entries[1].solid = archive.entries[2].solid = true;
+  archive.entries[1].claimedSize = kMaxEntrySize + 1;
+  RarReader reader(archive.Write(), "");
+  EXPECT_EQ(TextOf(reader.Read(0)), "0123456789abcdef");
+  EXPECT_EQ(TextOf(reader.Read(1)), "(larger than 256 MiB)");
+  EXPECT_EQ(TextOf(reader.Read(2)), "(depends on an earlier entry that cannot be read)");
+
+  MadeArchive old{.generation = 4};
+  old.entries = {Compressed(4, "1.bmp", "first"),
+                 Compressed(4, "2.bmp", "second"),
+                 {.name = "3.bmp", .contents = "stored", .solid = true}};
+  old.entries[1].solid = true;
+  RarReader oldReader(old.Write(), "");
+  EXPECT_EQ(TextOf(oldReader.Read(0)), "first");
+  EXPECT_THAT(TextOf(oldReader.Read(1)), HasSubstr("compressed together with earlier entries"));
+  EXPECT_EQ(TextOf(oldReader.Read(2)), "stored");
+}
+
 TEST(RarReader, ChecksTheOtherSumOfGenerationFive) {
   MadeArchive archive;
   archive.entries = {{.name = "a", .contents = std::string(1500, 'a'), .blake = true}};

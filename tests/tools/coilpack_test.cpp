@@ -154,5 +154,21 @@ TEST_F(CoilpackTest, PacksNoLinksAndNotItself) {
   EXPECT_EQ(shop_.Contents("a.rar"), "(none)");
 }
 
+/// What the build packed for the game is whole, and lies under the names the game looks for.
+TEST_F(CoilpackTest, PackedTheGame) {
+  const std::filesystem::path game = COILRUN_BUILD_DIR "/game";
+  const auto list = Pack("list '" + (game / "gfx.snr").string() + "'");
+  EXPECT_EQ(list.code, 0) << list.errors;
+  for (const char* const name : {" gfx/banana.bmp\n", " gfx/tnt_animated/45.bmp\n"})
+    EXPECT_THAT(list.output, HasSubstr(name));
+  EXPECT_EQ(Pack("test -p sn80463 '" + (game / "gfx.snr").string() + "'").errors, "");
+
+  for (const auto& pack : std::filesystem::directory_iterator(game / "models")) {
+    const auto outcome = Pack("test '" + pack.path().string() + "'");
+    EXPECT_EQ(outcome.errors, "");
+    EXPECT_THAT(outcome.output, HasSubstr(pack.path().stem().string() + "/model.ini: ok\n"));
+  }
+}
+
 }  // namespace
 }  // namespace coilrun
