@@ -37,7 +37,10 @@ Pictures::Pictures(const std::filesystem::path& levelFile) {
   for (auto entry = std::filesystem::recursive_directory_iterator(loose, ignored);
        !ignored && entry != std::filesystem::recursive_directory_iterator();
        entry.increment(ignored)) {
-    AddWithFolders(names_, NormalName(entry->path().lexically_relative(loose).string()));
+    std::filesystem::path name = entry->path().lexically_relative(loose);
+    // The sources of the game hold PNG files, which the build turns into the bitmaps it wants.
+    if (name.extension() == ".png") name.replace_extension(".bmp");
+    AddWithFolders(names_, NormalName(name.string()));
     known_ = true;
   }
   DiskFiles files(folder, std::nullopt);
