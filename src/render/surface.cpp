@@ -13,13 +13,22 @@ constexpr Rect At(const Rect& size, int x, int y) {
 }
 
 template <std::size_t kSize>
+void CopyPiece(const Pixel* from, Pixel* to) {
+  std::memcpy(to, from, kSize * sizeof(Pixel));
+}
+
+/// A group is written out: left as a loop, it is a tenth slower.
+template <std::size_t kSize>
 void CopyPieces(const OpaquePieces& pieces, Pixel* to) {
+  static_assert(kPieceGroup == 4);
   const Pixel* from = pieces.pixels.data();
   const std::uint32_t* const end = pieces.places.data() + pieces.places.size();
   for (const std::uint32_t* place = pieces.places.data(); place != end; place += kPieceGroup) {
-    for (std::size_t i = 0; i < kPieceGroup; ++i, from += kSize) {
-      std::memcpy(to + place[i], from, kSize * sizeof(Pixel));
-    }
+    CopyPiece<kSize>(from, to + place[0]);
+    CopyPiece<kSize>(from + kSize, to + place[1]);
+    CopyPiece<kSize>(from + 2 * kSize, to + place[2]);
+    CopyPiece<kSize>(from + 3 * kSize, to + place[3]);
+    from += kPieceGroup * kSize;
   }
 }
 
