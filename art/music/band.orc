@@ -79,7 +79,7 @@ instr Dulcimer
   p3 Ring 1.9, iFreq
   aEnv Decay p3, -5
   kBright transeg 12, 0.25, -4, 4, p3, -2, 1.5
-  aString = vco2(0.5, iFreq * 1.0015) + vco2(0.5, iFreq * 0.9985, 2, 0.3)
+  aString butterhp vco2(0.5, iFreq * 1.0015) + vco2(0.5, iFreq * 0.9985, 2, 0.3), iFreq * 0.5
   aTone tone aString, min:k(iFreq * kBright, k(11000))
   Play aTone * aEnv * 1.1, p5, p6, p7, p8
 endin
@@ -121,7 +121,7 @@ instr Reed
   aEnv linsegr 0, 0.03, 1, 0.1, 0.8, 0.08, 0
   kScoop transeg 0.975, 0.07, -2, 1, 1, 0, 1
   kFreq = iFreq * kScoop * Vibrato(0.009, 5.6, 0.25)
-  aReed vco2 1, kFreq, 2, 0.18
+  aReed butterhp vco2(1, kFreq, 2, 0.18), iFreq * 0.5 ; a narrow pulse has an offset
   aNose = butterbp(aReed, 1150, 500) * 1.1 + butterbp(aReed, 2700, 700) * 0.5 + butterlp(aReed, 700) * 0.35
   Play aNose * aEnv, p5, p6, p7, p8
 endin
@@ -161,14 +161,14 @@ instr Lead
   aEnv linsegr 0, 0.006, 1, 0.08, 0.7, 0.06, 0
   kFreq = iFreq * Vibrato(0.007, 5.8, 0.18)
   kWidth linseg 0.25, 0.4, 0.45, 1, 0.45
-  aPulse vco2 0.7, kFreq, 2, kWidth
+  aPulse butterhp vco2(0.7, kFreq, 2, kWidth), iFreq * 0.5
   Play butterlp:a(aPulse, 6500) * aEnv, p5, p6, p7, p8
 endin
 
 instr Chip
   iFreq = cpsmidinn(p4)
   aEnv linsegr 0, 0.003, 1, 0.09, 0.35, 0.03, 0
-  aPulse vco2 0.6, iFreq, 2, 0.25
+  aPulse butterhp vco2(0.6, iFreq, 2, 0.25), iFreq * 0.5
   Play butterlp:a(aPulse, 5500) * aEnv, p5, p6, p7, p8
 endin
 
@@ -212,7 +212,7 @@ instr Rim
   p3 = 0.07
   aEnv Decay p3, -6
   aWood = oscili:a(aEnv, 1710) + oscili:a(aEnv, 830) + butterbp:a(rand:a(aEnv, 0.9), 2600, 1200)
-  Play aWood * 0.5, p5, p6, p7, p8
+  Play aWood * 0.9, p5, p6, p7, p8
 endin
 
 instr ClosedHat

@@ -27,7 +27,7 @@ ORCHESTRA = HERE / "band.orc"
 RATE = 44100
 BLOCK = 64  # csound's ksmps
 QUALITY = 2
-LOUDNESS_DB = -19.0
+LOUDNESS_DB = -15.5
 CEILING = 0.84  # the encoder may overshoot a little
 ECHO_BEATS = 0.75
 

@@ -27,8 +27,8 @@ endin
 
 ; p5 pan, p6 seed: one cloud for each side
 instr Cloud
-  aEnv transeg 0, 0.006, 0, 1, 0.16, -1.5, 0.6, p3 - 0.166, -3.5, 0
-  kCut transeg 9000, 0.18, -3, 2600, p3 - 0.18, -3, 260
+  aEnv transeg 0, 0.006, 0, 0.7, 0.16, -1.5, 0.6, p3 - 0.166, -3.5, 0
+  kCut transeg 6000, 0.18, -3, 2600, p3 - 0.18, -3, 260
   aNoise rand 1, p6
   aLow moogladder aNoise, kCut, 0.12
   Place tanh(aLow * aEnv * 4) * p4, p5
