@@ -3,7 +3,7 @@
 build_packages="g++ cmake ninja-build pkg-config libsdl2-dev libsdl2-mixer-dev libsdl2-ttf-dev libarchive-dev libssl-dev
   libpng-dev libsimpleini-dev nlohmann-json3-dev fonts-liberation2 fonts-comic-neue"
 test_packages="libgtest-dev libgmock-dev libbenchmark-dev clang-format xvfb xauth xdotool openbox x11-apps imagemagick unar
-  libarchive-tools python3 python3-numpy python3-pil desktop-file-utils"
+  libarchive-tools python3 python3-numpy python3-pil desktop-file-utils vorbis-tools"
 
 # Installs the packages named that are missing; says in one line what to do when that is not possible.
 install_packages() {
@@ -28,11 +28,12 @@ install_packages() {
   }
 }
 
-# build PRESET TARGET...: configures and builds, quietly unless something is wrong.
+# build PRESET TESTS TARGET...: configures, with or without the tests (ON or OFF), and builds.
 build() {
   preset=$1
-  shift
-  cmake --preset "$preset" >/dev/null
+  tests=$2
+  shift 2
+  cmake --preset "$preset" -DBUILD_TESTING="$tests" >/dev/null
   # shellcheck disable=SC2086
   cmake --build --preset "$preset" --target "$@"
 }
