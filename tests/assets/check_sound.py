@@ -44,6 +44,8 @@ def parse_wave(data):
         # A decoder that writes to a pipe cannot know the length beforehand and leaves a huge one.
         raw = file.readframes(min(file.getnframes(), len(data)))
     raw = raw[: len(raw) // (2 * channels) * (2 * channels)]
+    if not raw:
+        raise wave.Error("holds no samples")
     return channels, rate, np.frombuffer(raw, "<i2").reshape(-1, channels) / 32768
 
 
@@ -72,7 +74,7 @@ def loudness(samples, rate):
 
 def loudest(samples, rate):
     """Power of the loudest tenth of a second: how loud a short sound seems."""
-    size = int(LOUDEST_SECONDS * rate)
+    size = min(int(LOUDEST_SECONDS * rate), len(samples))
     total = np.concatenate([[0], np.cumsum((samples**2).sum(axis=1))])
     return decibels((total[size:] - total[:-size]).max() / size)
 
@@ -115,7 +117,7 @@ def check_effect(path):
     try:
         channels, rate, samples = parse_wave(path.read_bytes())
     except (OSError, EOFError, wave.Error) as error:
-        return [str(error)], None
+        return [f"cannot be read: {error!r}"], None
     if (channels, rate) != (2, EFFECT_RATE):
         return [f"{channels} channels at {rate} Hz, not 2 at {EFFECT_RATE}"], None
     return [*level_faults(samples), *length_fault(samples, rate, EFFECT_SECONDS)], loudest(samples, rate)
@@ -126,7 +128,7 @@ def check_track(path, command):
     try:
         channels, rate, samples = parse_wave(decode(command, path))
     except (OSError, EOFError, wave.Error, subprocess.CalledProcessError) as error:
-        return [str(error)], None
+        return [f"cannot be decoded: {error!r}"], None
     if channels != 2 or rate not in MUSIC_RATES:
         return [f"{channels} channels at {rate} Hz, not 2 at one of {MUSIC_RATES}"], None
     faults = [*level_faults(samples), *length_fault(samples, rate, MUSIC_SECONDS)]
