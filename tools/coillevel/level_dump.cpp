@@ -7,6 +7,7 @@
 
 #include "content/load_level.h"
 #include "ports/windows_1252.h"
+#include "quiet_ports.h"
 
 namespace coilrun {
 namespace {
@@ -52,36 +53,6 @@ class NoArchive final : public Archive {
   std::optional<std::string> ReadHeader() override { return std::nullopt; }
   bool ProcessFile(const std::optional<std::string>& /*target*/) override { return false; }
   void Close() override {}
-};
-
-class NoPump final : public Pump {
- public:
-  void Yield() override {}
-  void Flip() override {}
-  void Present() override {}
-  void Sleep(int /*milliseconds*/) override {}
-};
-
-/// Default settings; every picture that exists can be loaded.
-class DefaultHost final : public LoaderHost {
- public:
-  explicit DefaultHost(State& state) : state_(state) {}
-
-  void LoadSettings() override {
-    for (SnakeRec& snake : state_.Snakes) {
-      snake.BaseInterval = static_cast<int>(SettingsState{}.GlobalSpeed);
-    }
-  }
-  void StoreSetting(const std::string& /*key*/, const std::string& /*value*/) override {}
-  void LoadBackground() override {}
-  void PrepareLvlGfx() override {}
-  bool PreloadUserItem(const std::string& /*name*/) override { return true; }
-  bool HoldsPicture(const std::string& /*name*/) const override { return true; }
-  void LoadModelPictures(int /*model*/) override {}
-  void ShowProgress() override {}
-
- private:
-  State& state_;
 };
 
 /// Whole numbers are written without a fraction.
@@ -175,7 +146,7 @@ std::optional<std::string> DumpLevel(std::string_view text, const Pictures& pict
   OneLevel files(text, pictures);
   NoArchive archive;
   NoPump pump;
-  DefaultHost host(state);
+  QuietHost host(state);
   LoadLevel({state, files, archive, pump, host}, kPath);
   if (state.shell.NoGameRunning) return std::nullopt;
   Json json;

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "level_checker.h"
+#include "level_drawing.h"
 #include "level_dump.h"
 
 namespace coilrun {
@@ -57,12 +58,24 @@ int Dump(const std::string& file) {
   return kGood;
 }
 
+int Draw(const std::string& file, const std::string& picture) {
+  const auto text = ReadFile(file);
+  if (!text) return kFaulty;
+  const std::string fault = DrawLevel(*text, ProgramFolderOf(file), picture);
+  if (fault.empty()) return kGood;
+  std::cerr << "coillevel: " << file << ": " << fault << '\n';
+  return kFaulty;
+}
+
 int Run(const std::vector<std::string>& arguments) {
   if (arguments.size() >= 2 && arguments[0] == "check") {
     return Check({arguments.begin() + 1, arguments.end()});
   }
   if (arguments.size() == 2 && arguments[0] == "dump") return Dump(arguments[1]);
-  std::cerr << "usage: coillevel check FILE...\n       coillevel dump FILE\n";
+  if (arguments.size() == 3 && arguments[0] == "draw") return Draw(arguments[1], arguments[2]);
+  std::cerr << "usage: coillevel check FILE...\n"
+               "       coillevel draw FILE PNG\n"
+               "       coillevel dump FILE\n";
   return kWrongUse;
 }
 

@@ -29,9 +29,12 @@ void AddWithFolders(std::set<std::string>& names, const std::string& name) {
 
 }  // namespace
 
+std::filesystem::path ProgramFolderOf(const std::filesystem::path& levelFile) {
+  return std::filesystem::absolute(levelFile).parent_path().parent_path();
+}
+
 Pictures::Pictures(const std::filesystem::path& levelFile) {
-  const std::filesystem::path folder =
-      std::filesystem::absolute(levelFile).parent_path().parent_path();
+  const std::filesystem::path folder = ProgramFolderOf(levelFile);
   std::error_code ignored;
   const std::filesystem::path loose = folder / "gfx";
   for (auto entry = std::filesystem::recursive_directory_iterator(loose, ignored);

@@ -6,8 +6,10 @@
 
 namespace coilrun {
 
-/// The pictures that a level may name: those of the program folder that its file lies in
-/// (FOLDER/lvl/FILE), loose or packed in gfx.snr.
+/// The program folder that a level's file lies in: FOLDER of FOLDER/lvl/FILE.
+std::filesystem::path ProgramFolderOf(const std::filesystem::path& levelFile);
+
+/// The pictures that a level may name: those of its program folder, loose or packed in gfx.snr.
 class Pictures {
  public:
   explicit Pictures(const std::filesystem::path& levelFile);
