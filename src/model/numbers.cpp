@@ -90,9 +90,9 @@ std::optional<int> ToInt32(double number) {
 std::optional<bool> ToBoolean(std::string_view text) {
   if (EqualsIgnoringCase(text, "true")) return true;
   if (EqualsIgnoringCase(text, "false")) return false;
-  const auto number = ParseAtStart(WithoutBlanks(text, false));
+  const auto number = WholeNumber(text);
   if (!number) return std::nullopt;
-  return number->value != 0;
+  return *number != 0;
 }
 
 std::string NumberText(double number) {

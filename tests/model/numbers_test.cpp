@@ -37,6 +37,7 @@ TEST(ToBoolean, TakesWordsAndNumbers) {
   EXPECT_EQ(ToBoolean("0"), false);
   EXPECT_EQ(ToBoolean("-1"), true);
   EXPECT_EQ(ToBoolean("maybe"), std::nullopt);
+  EXPECT_EQ(ToBoolean("1st"), std::nullopt);
   EXPECT_EQ(ToBoolean(""), std::nullopt);
 }
 
