@@ -74,7 +74,10 @@ void Renderer::PrepareLvlGfx() {
     for (int frame = 1; frame <= kAnimationFrames; ++frame) PrepareFrame(frame);
   }
   panel_.SetCaption("PrepareLvlGfx: Loading 2D Items...");
-  for (const std::string_view name : kFlatItems) store_.Preload(std::string{name}, KeyMode::kBlack);
+  for (const std::string_view name : kFlatItems) {
+    NamedPicture picture{std::string{name}, KeyMode::kBlack};
+    store_.Fetch(picture);
+  }
   state_.feed.introVisible = false;
 }
 

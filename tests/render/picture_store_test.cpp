@@ -173,8 +173,10 @@ TEST(PrepareLvlGfx, LoadsWhatTheLevelUsesAndYieldsAFrame) {
 
   Stage still;
   still.state.settings.AnimatedItems = false;
-  still.renderer.PrepareLvlGfx();
+  still.state.shell.DisplayReady = false;
+  for (int level = 1; level <= 2; ++level) still.renderer.PrepareLvlGfx();
   EXPECT_EQ(still.pump.yields, 0);
+  EXPECT_EQ(still.box.shown.size(), 5U) << "one question a missing picture, whatever is loaded";
 }
 
 }  // namespace
