@@ -31,7 +31,7 @@ def main():
         reduce.save(picture, render.GFX / f"{name}.png")
     for name, files in zip(ANIMATED, outputs[len(STILL) :]):
         for number, file in enumerate(files, 1):
-            picture = reduce.reduce_render(reduce.load_rgba(file), ZOOM, reduce.GREY_131)
+            picture = reduce.reduce_render(reduce.load_rgba(file), ZOOM, reduce.BLACK)
             reduce.save(picture, render.GFX / name / f"{number}.png")
 
 

@@ -149,7 +149,7 @@ void MenuPages::DrawButton(Standard picture, int y) {
 }
 
 void MenuPages::DrawLitButton(Standard picture, int y) {
-  constexpr Rect kBananaPart{0, 0, 16, 16};
+  constexpr Rect kBananaPart{0, 0, 16, 24};
   DrawButton(picture, y);
   ItemPicture& banana = items_.Frame(ItemKind::kYellow, state_.timers.AnimFrame);
   canvas_.Back().Blit(items_.Fetch(banana.picture), kBananaPart, 285, y + 5, true);

@@ -220,7 +220,8 @@ TEST(MainPage, ShowsTheLitButtonOverItsNeighbours) {
   EXPECT_EQ(stage.At(400, 230), 0xFFFFFFU);
   EXPECT_EQ(stage.At(400, 259), 0xFFFFFFU) << "over the next button";
   EXPECT_EQ(stage.At(285, 235), 0xFFFF00U);
-  EXPECT_EQ(stage.At(285, 251), 0U) << "16 rows of the banana";
+  EXPECT_EQ(stage.At(285, 258), 0xFFFF00U);
+  EXPECT_EQ(stage.At(285, 259), 0U) << "24 rows of the banana";
   EXPECT_THAT(stage.Drawn(),
               ElementsAre("5,459 Arial status", "580,459 Arial v. 1.2.24",
                           "5,437 Courier New Credits someone", "5,437 Courier New Credits "));
