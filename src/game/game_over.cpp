@@ -50,13 +50,16 @@ void GameOverScreen(Game& game) {
   state.overlay = WaitOverlay::kNone;
 }
 
-/// The next game starts at 0 with all lives; until then the menus are open.
+/// The next game starts at 0 with all lives; until then the menus are open. A level that ended
+/// before its screen was shown must not keep the menus from taking keys.
 void LeaveGame(State& state) {
   SnakeRec& player = state.Snakes(kPlayer);
   player.TotalScore = 0;
   player.Lives = kLivesOfAGame;
   StopSnakeTimers(state);
   state.shell.NoGameRunning = true;
+  state.shell.LevelIntroPending = false;
+  state.shell.ShowLevelScreen = false;
   state.shell.InMenu = true;
 }
 

@@ -92,6 +92,8 @@ TEST(NextLevel, TheLastLevelEntersTheTableAndOpensTheMenus) {
     for (HiScoreEntry& entry : field.state.HiScore) entry = {"Old", 2000};
     field.state.HiScore(4).Score = 1200;
     field.state.level.nextLvl = next;
+    field.state.shell.LevelIntroPending = true;
+    field.state.shell.ShowLevelScreen = true;
     Complete(field);
     EXPECT_THAT(field.host.calls, ElementsAre("save", "menus"));
     EXPECT_EQ(field.state.HiScore(4).Name, "Ann");
@@ -100,6 +102,8 @@ TEST(NextLevel, TheLastLevelEntersTheTableAndOpensTheMenus) {
     EXPECT_EQ(field.Player().TotalScore, 0);
     EXPECT_EQ(field.Player().Lives, 3);
     EXPECT_TRUE(field.state.shell.InMenu && field.state.shell.NoGameRunning);
+    EXPECT_FALSE(field.state.shell.LevelIntroPending || field.state.shell.ShowLevelScreen)
+        << "they would keep the menus from taking keys";
   }
 }
 
