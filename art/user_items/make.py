@@ -5,7 +5,9 @@ A level decides with "let:" what TNT does. By their looks:
     can be blown up    ui_crate ui_barrel ui_bush ui_ice ui_cactus; ui_fan ui_wheel ui_fountain
     withstand TNT      ui_rock ui_steel ui_idol; ui_flame ui_coil
 
-A still one is set by its file (ui_crate.bmp), an animated one by its folder (ui_fan).
+A still one is set by its file (ui_crate.bmp), an animated one by its folder (ui_fan). Animated ones
+are keyed black when a level loads them and grey 131 when they are loaded again, so they stand on a
+plate and leave nothing to a key.
 """
 
 from pathlib import Path
@@ -14,6 +16,7 @@ from lib import reduce, render
 
 ZOOM = 8
 SIZE = 20
+PLATE = (36, 34, 40)
 STILL = ("ui_crate", "ui_barrel", "ui_bush", "ui_rock", "ui_ice", "ui_cactus", "ui_steel", "ui_idol")
 ANIMATED = ("ui_fan", "ui_flame", "ui_coil", "ui_wheel", "ui_fountain")
 
@@ -32,6 +35,7 @@ def main():
     for name, files in zip(ANIMATED, outputs[len(STILL) :]):
         for number, file in enumerate(files, 1):
             picture = reduce.reduce_render(reduce.load_rgba(file), ZOOM, reduce.BLACK)
+            picture[(picture == reduce.BLACK).all(axis=2)] = PLATE
             reduce.save(picture, render.GFX / name / f"{number}.png")
 
 

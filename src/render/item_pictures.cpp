@@ -90,7 +90,7 @@ NamedPicture* ItemPictures::UserItem(const UserItemRec& item, int frame) {
     found = movingWalls_.emplace(item.Name, UserFrames{}).first;
     for (int n = 1; n <= kAnimationFrames; ++n) {
       found->second[static_cast<std::size_t>(n - 1)] =
-          NamedPicture{FrameFile(item.Name + "\\", n), KeyMode::kBlack};
+          NamedPicture{FrameFile(item.Name + "\\", n), KeyMode::kGrey131};
     }
   }
   return &found->second.at(FrameIndex(frame));

@@ -14,6 +14,7 @@ import numpy as np
 from PIL import Image
 
 BLACK, GREY_128, GREY_131 = (0, 0, 0), (128, 128, 128), (131, 131, 131)
+PLATE = (36, 34, 40)  # the ground of moving user items, which are keyed black first and grey later
 GREY_CLEARANCE = 6
 INTERFACE, FIELD = 18, 28  # least value of the brightest channel over a black key
 FRAMES = 45
@@ -173,8 +174,8 @@ def check_animation(checker, folder, size, key):
     steps = [np.abs(a[0] - b[0]).mean() for a, b in zip(loaded, loaded[1:] + loaded[:1])]
     if steps[-1] > max(steps[:-1]):
         checker.fault(folder, f"jumps from the last frame to the first: {steps[-1]:.1f} > {max(steps[:-1]):.1f}")
-    # Beside a black key an edge in shade looks like a fringe.
-    fringe = 0 if key == BLACK else np.mean([fringe_share(pixels, mask, key) for pixels, mask in loaded])
+    # Beside a dark key an edge in shade looks like a fringe.
+    fringe = 0 if key in (BLACK, PLATE) else np.mean([fringe_share(pixels, mask, key) for pixels, mask in loaded])
     if fringe > FRINGE_SHARE:
         checker.fault(folder, f"fringe: {fringe:.0%} of the edge is mixed with the key")
     return loaded
@@ -274,7 +275,10 @@ def field_things(checker):
     for name, (size, key) in ANIMATED_ITEMS.items():
         things[name] = check_animation(checker, checker.gfx / name, size, key)
     for folder in sorted(p for p in checker.gfx.glob("ui_*") if p.is_dir()):
-        things[folder.name] = check_animation(checker, folder, (20, 20), BLACK)
+        things[folder.name] = check_animation(checker, folder, (20, 20), PLATE)
+        for pixels, _ in things[folder.name]:
+            if (pixels.max(axis=2) <= 10).any() or (pixels == GREY_131).all(axis=2).any():
+                checker.fault(folder, "leaves pixels to a key")
     still = [(checker.gfx / f"{n}.png", (16, 16)) for n in FLAT_ITEMS]
     still += [(checker.gfx / f"{n}.png", (20, 20)) for n in WALLS]
     still += [(p, (20, 20)) for p in sorted(checker.gfx.glob("ui_*.png"))]

@@ -170,7 +170,7 @@ TEST(UserItems, ShowStillAndMovingWallsByTheirType) {
   FieldStage stage;
   stage.files.Put(".\\gfx\\crate.bmp", Plain(20, 20, 0x00AA00));
   stage.files.Put(".\\gfx\\fan\\3.bmp", Plain(20, 20, 0x00BB00));
-  stage.files.Put(".\\gfx\\smoke\\3.bmp", Plain(20, 20, 0));
+  stage.files.Put(".\\gfx\\smoke\\3.bmp", Plain(20, 20, 0x838383));
   stage.state.timers.AnimFrame = 3;
   stage.state.numUserItems = 5;
   stage.state.UserItems(1) = {20, 20, true, "crate.bmp", "wall_no_tnt"};
@@ -185,7 +185,7 @@ TEST(UserItems, ShowStillAndMovingWallsByTheirType) {
   EXPECT_EQ(stage.At(45, 25), 0x00BB00U);
   EXPECT_EQ(stage.At(65, 25), 0x101010U);
   EXPECT_EQ(stage.At(85, 25), 0x101010U);
-  EXPECT_EQ(stage.At(105, 25), 0x101010U) << "black is transparent";
+  EXPECT_EQ(stage.At(105, 25), 0x101010U) << "the grey of animations is transparent";
 }
 
 }  // namespace
