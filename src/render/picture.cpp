@@ -1,25 +1,11 @@
 #include "render/picture.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "ports/screen.h"
 
 namespace coilrun {
-namespace {
-
-void FillGroup(OpaquePieces& pieces) {
-  if (pieces.places.empty()) return;
-  const std::size_t size = pieces.pixels.size() / pieces.places.size();
-  while (pieces.places.size() % kPieceGroup != 0) {
-    pieces.places.push_back(pieces.places.back());
-    for (std::size_t i = 0; i < size; ++i) {
-      pieces.pixels.push_back(pieces.pixels[pieces.pixels.size() - size]);
-    }
-  }
-}
-
-}  // namespace
-
 Picture::Picture(Bitmap bitmap, KeyMode key) : bitmap_(std::move(bitmap)), key_(key) {
   for (int y = 0; y < Height(); ++y) {
     const Pixel* const row = bitmap_.pixels.data() + static_cast<std::ptrdiff_t>(y) * Width();
@@ -30,38 +16,19 @@ Picture::Picture(Bitmap bitmap, KeyMode key) : bitmap_(std::move(bitmap)), key_(
       ++x;
     }
   }
-  FillGroup(eights_);
-  FillGroup(fours_);
-  FillGroup(twos_);
-  FillGroup(ones_);
 }
 
-/// Cuts a run into pieces, the largest first. A rest of three pixels or of five to seven is copied
-/// by a piece that reaches back over pixels copied before: a few pixels twice, but in fewer steps.
 void Picture::AddRun(int x, int y, int length) {
-  opaque_ += length;
-  const int end = x + length;
-  for (; x + 8 <= end; x += 8) AddPiece(eights_, 8, x, y);
-  const int rest = end - x;
-  if (rest > 4 && length >= 8) {
-    AddPiece(eights_, 8, end - 8, y);
-  } else if (rest > 4) {
-    AddPiece(fours_, 4, x, y);
-    AddPiece(fours_, 4, end - 4, y);
-  } else if (rest >= 3 && length >= 4) {
-    AddPiece(fours_, 4, end - 4, y);
-  } else if (rest >= 2) {
-    AddPiece(twos_, 2, x, y);
-    if (rest == 3) AddPiece(ones_, 1, end - 1, y);
-  } else if (rest == 1) {
-    AddPiece(ones_, 1, x, y);
+  const auto size =
+      static_cast<std::size_t>(std::ranges::lower_bound(kRunSizes, length) - kRunSizes.begin());
+  if (opaque_.groups.empty() || opaque_.groups.back().size != size) {
+    opaque_.groups.push_back({size, 0});
   }
-}
-
-void Picture::AddPiece(OpaquePieces& pieces, int size, int x, int y) {
-  pieces.places.push_back(static_cast<std::uint32_t>(y * kScreenWidth + x));
+  ++opaque_.groups.back().count;
+  opaque_.runs.push_back(
+      {static_cast<std::uint32_t>(y * kScreenWidth + x), static_cast<std::uint32_t>(length)});
   const auto first = bitmap_.pixels.begin() + (static_cast<std::ptrdiff_t>(y) * Width() + x);
-  pieces.pixels.insert(pieces.pixels.end(), first, first + size);
+  opaque_.pixels.insert(opaque_.pixels.end(), first, first + length);
 }
 
 Picture Picture::Cut(const Rect& part) const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <vector>
 
 #include "render/bitmap.h"
@@ -26,15 +27,28 @@ constexpr bool IsTransparent(KeyMode key, Pixel pixel) {
   return (pixel >> 16) <= 10 && (pixel >> 8 & 0xFF) <= 10 && (pixel & 0xFF) <= 10;
 }
 
-/// Pieces are copied in groups of this many, so that the loops are short.
-inline constexpr std::size_t kPieceGroup = 4;
+/// Pixels side by side in a row, all opaque. `place` is where they start on the screen, relative to
+/// the picture's top left.
+struct OpaqueRun {
+  std::uint32_t place;
+  std::uint32_t length;
+};
 
-/// The opaque pixels of a picture in pieces of one size: eight, four, two or one, so that drawing
-/// is four short loops without a decision inside. `places` are positions on the screen relative to
-/// the picture's top left; `pixels` lie one piece after the other. The last piece is repeated until
-/// the groups are full.
-struct OpaquePieces {
-  std::vector<std::uint32_t> places;
+/// Up to how many pixels a run of each size has; a size more for longer ones. Runs of one size are
+/// copied in the same steps, without a decision.
+inline constexpr std::array kRunSizes = {1, 3, 4, 8, 12, 16, 20};
+
+/// Runs of one size that follow one another.
+struct RunGroup {
+  std::size_t size;  ///< index in kRunSizes, or beyond its end
+  std::size_t count;
+};
+
+/// The opaque pixels of a picture row by row, so that memory is written in order. `pixels` are
+/// those of all runs, side by side.
+struct OpaqueRuns {
+  std::vector<RunGroup> groups;
+  std::vector<OpaqueRun> runs;
   std::vector<Pixel> pixels;
 };
 
@@ -54,24 +68,16 @@ class Picture {
   /// A part as a picture of its own; unset when it does not lie wholly inside.
   Picture Cut(const Rect& part) const;
 
-  const OpaquePieces& Eights() const { return eights_; }
-  const OpaquePieces& Fours() const { return fours_; }
-  const OpaquePieces& Twos() const { return twos_; }
-  const OpaquePieces& Ones() const { return ones_; }
+  const OpaqueRuns& Opaque() const { return opaque_; }
   /// How many pixels a keyed draw of the whole picture changes.
-  int OpaquePixels() const { return opaque_; }
+  int OpaquePixels() const { return static_cast<int>(opaque_.pixels.size()); }
 
  private:
   void AddRun(int x, int y, int length);
-  void AddPiece(OpaquePieces& pieces, int size, int x, int y);
 
   Bitmap bitmap_;
   KeyMode key_ = KeyMode::kBlack;
-  OpaquePieces eights_;
-  OpaquePieces fours_;
-  OpaquePieces twos_;
-  OpaquePieces ones_;
-  int opaque_ = 0;
+  OpaqueRuns opaque_;
 };
 
 }  // namespace coilrun

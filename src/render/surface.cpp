@@ -1,6 +1,7 @@
 #include "render/surface.h"
 
 #include <algorithm>
+#include <array>
 #include <cstring>
 
 namespace coilrun {
@@ -12,25 +13,39 @@ constexpr Rect At(const Rect& size, int x, int y) {
   return {x, y, x + size.Width(), y + size.Height()};
 }
 
-template <std::size_t kSize>
-void CopyPiece(const Pixel* from, Pixel* to) {
-  std::memcpy(to, from, kSize * sizeof(Pixel));
+template <std::size_t kPixels>
+void CopyPixels(const Pixel* from, Pixel* to) {
+  std::memcpy(to, from, kPixels * sizeof(Pixel));
 }
 
-/// A group is written out: left as a loop, it is a tenth slower.
-template <std::size_t kSize>
-void CopyPieces(const OpaquePieces& pieces, Pixel* to) {
-  static_assert(kPieceGroup == 4);
-  const Pixel* from = pieces.pixels.data();
-  const std::uint32_t* const end = pieces.places.data() + pieces.places.size();
-  for (const std::uint32_t* place = pieces.places.data(); place != end; place += kPieceGroup) {
-    CopyPiece<kSize>(from, to + place[0]);
-    CopyPiece<kSize>(from + kSize, to + place[1]);
-    CopyPiece<kSize>(from + 2 * kSize, to + place[2]);
-    CopyPiece<kSize>(from + 3 * kSize, to + place[3]);
-    from += kPieceGroup * kSize;
+/// Copies runs in pieces of `kPiece` pixels: `kPieces` of them from the start, and one that ends
+/// where the run ends. That one may reach back over pixels copied before, never beyond the run.
+/// Returns where the pixels of the next run lie.
+template <std::size_t kPiece, std::size_t kPieces>
+const Pixel* CopyRuns(std::span<const OpaqueRun> runs, const Pixel* from, Pixel* to) {
+  for (const auto [place, length] : runs) {
+    Pixel* const start = to + place;
+    for (std::size_t at = 0; at < kPieces * kPiece; at += kPiece) {
+      CopyPixels<kPiece>(from + at, start + at);
+    }
+    CopyPixels<kPiece>(from + length - kPiece, start + length - kPiece);
+    from += length;
   }
+  return from;
 }
+
+const Pixel* CopyLongRuns(std::span<const OpaqueRun> runs, const Pixel* from, Pixel* to) {
+  for (const auto [place, length] : runs) {
+    std::memcpy(to + place, from, length * sizeof(Pixel));
+    from += length;
+  }
+  return from;
+}
+
+/// By size of the runs.
+constexpr std::array<decltype(&CopyLongRuns), kRunSizes.size() + 1> kCopy = {
+    CopyRuns<1, 0>, CopyRuns<2, 1>, CopyRuns<4, 0>, CopyRuns<4, 1>,
+    CopyRuns<4, 2>, CopyRuns<4, 3>, CopyRuns<4, 4>, CopyLongRuns};
 
 constexpr Pixel Mix(Pixel below, Color color, unsigned coverage) {
   const auto channel = [coverage](unsigned under, unsigned over) {
@@ -64,11 +79,14 @@ void Surface::FillRect(const Rect& rect, Color color) {
 
 void Surface::Blit(const Picture& picture, int x, int y) {
   if (!kScreen.Holds(coilrun::At(picture.Bounds(), x, y))) return;
+  const OpaqueRuns& opaque = picture.Opaque();
   Pixel* const to = At(x, y);
-  CopyPieces<8>(picture.Eights(), to);
-  CopyPieces<4>(picture.Fours(), to);
-  CopyPieces<2>(picture.Twos(), to);
-  CopyPieces<1>(picture.Ones(), to);
+  const Pixel* from = opaque.pixels.data();
+  const OpaqueRun* run = opaque.runs.data();
+  for (const auto [size, count] : opaque.groups) {
+    from = kCopy[size]({run, count}, from, to);
+    run += count;
+  }
 }
 
 void Surface::Blit(const Picture& picture, const Rect& from, int x, int y, bool keyed) {
