@@ -1,8 +1,7 @@
 #pragma once
 
-#include <algorithm>
-
 #include "game/game_host.h"
+#include "model/snakes_in_play.h"
 #include "model/state.h"
 
 namespace coilrun {
@@ -14,11 +13,6 @@ struct Game {
 };
 
 inline constexpr int kPlayer = 1;
-
-/// Snakes in play, whatever number the state holds: 1 to 16.
-inline int SnakesInPlay(const State& state) {
-  return std::clamp<int>(state.mode.NumSnakes, 1, kMaxSnakes);
-}
 
 /// Puts a head on the snake's start cell.
 inline void PutOnStart(SnakeRec& snake) {

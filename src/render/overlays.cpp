@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "model/numbers.h"
+#include "model/snakes_in_play.h"
 
 namespace coilrun {
 namespace {
@@ -13,10 +14,6 @@ using std::to_string;
 
 constexpr std::array<ItemKind, 4> kColoured = {ItemKind::kYellow, ItemKind::kRed, ItemKind::kBlue,
                                                ItemKind::kBlack};
-
-int SnakesInPlay(const State& state) {
-  return std::clamp<int>(state.mode.NumSnakes, 1, kMaxSnakes);
-}
 
 bool Multiplayer(const State& state) {
   return IsMultiplayer(state.mode.GameMode);

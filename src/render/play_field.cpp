@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "model/snakes_in_play.h"
 #include "render/snake_pieces.h"
 
 namespace coilrun {
@@ -14,10 +15,6 @@ constexpr Rect kCellPart{0, 0, kCell, kCell};
 constexpr std::array<Standard, 8> kWallPictures = {
     Standard::kBrik,   Standard::kBrikH,  Standard::kBrikV,  Standard::kBrikVL,
     Standard::kBrikVR, Standard::kBrikHT, Standard::kBrikHB, Standard::kBrik};
-
-int SnakesInPlay(const State& state) {
-  return std::clamp<int>(state.mode.NumSnakes, 1, kMaxSnakes);
-}
 
 }  // namespace
 

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "model/numbers.h"
+#include "model/snakes_in_play.h"
 
 namespace coilrun {
 namespace {
@@ -45,7 +46,7 @@ void TextPainter::DrawSystemText(std::string_view text, int x, int y) {
 
 void TextPainter::DrawSnakeNames(bool showAll) {
   if (!showAll && state_.keys.KeyPressed != kKeyN) return;
-  for (int s = 1; s <= std::clamp<int>(state_.mode.NumSnakes, 1, kMaxSnakes); ++s) {
+  for (int s = 1; s <= SnakesInPlay(state_); ++s) {
     const SnakeRec& snake = state_.Snakes(s);
     SetFont({"Arial", 7, false});
     SetColor({200, 0, 0});
