@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <cstring>
 #include <numeric>
 
@@ -48,7 +49,8 @@ class Scene {
 
  private:
   void Add(const Picture& picture, int times = 1) {
-    opaque_ += static_cast<std::size_t>(picture.OpaquePixels() * times);
+    const auto opaque = [&](Pixel pixel) { return !IsTransparent(picture.Key(), pixel); };
+    opaque_ += static_cast<std::size_t>(std::ranges::count_if(picture.Pixels(), opaque) * times);
   }
   void AddOpaquePixels() {
     const State& state = stage_.state;

@@ -24,6 +24,7 @@ enum class Dir : std::uint8_t {
   kRF,
   kRB
 };
+inline constexpr int kDirs = 13;
 
 /// Kinds of walls by the picture that they show.
 enum class WallKind : std::uint8_t { kNone, kV, kH, kVL, kVR, kHT, kHB, kS };

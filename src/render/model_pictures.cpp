@@ -58,10 +58,4 @@ void ModelPictures::LoadModelPictures(int model) {
   load(kMarker);
 }
 
-const Picture& ModelPictures::operator()(int model, ModelPiece piece) const {
-  static const Picture kUnset;
-  if (model < 0 || model >= kMaxModelPacks) return kUnset;
-  return models_[static_cast<std::size_t>(model)][Index(piece)];
-}
-
 }  // namespace coilrun

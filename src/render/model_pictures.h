@@ -50,11 +50,15 @@ class ModelPictures {
   void LoadModelPictures(int model);
 
   /// Unset for a number that stands for no model.
-  const Picture& operator()(int model, ModelPiece piece) const;
+  const Picture& operator()(int model, ModelPiece piece) const {
+    if (model < 0 || model >= kMaxModelPacks) return unset_;
+    return models_[static_cast<std::size_t>(model)][static_cast<std::size_t>(piece)];
+  }
 
  private:
   State& state_;
   PictureLoader& loader_;
+  Picture unset_;
   std::vector<std::array<Picture, kModelPieces>> models_;
 };
 

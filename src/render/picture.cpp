@@ -1,35 +1,87 @@
 #include "render/picture.h"
 
 #include <algorithm>
+#include <bit>
+#include <map>
 #include <utility>
 
+#include "model/records.h"
 #include "ports/screen.h"
 
 namespace coilrun {
-Picture::Picture(Bitmap bitmap, KeyMode key) : bitmap_(std::move(bitmap)), key_(key) {
-  for (int y = 0; y < Height(); ++y) {
-    const Pixel* const row = bitmap_.pixels.data() + static_cast<std::ptrdiff_t>(y) * Width();
-    for (int x = 0; x < Width();) {
+namespace {
+
+/// Where opaque pixels that lie side by side in a row start, by how many they are.
+using StartsByWidth = std::map<int, std::vector<Point>>;
+
+StartsByWidth FindOpaque(const Bitmap& bitmap, KeyMode key) {
+  StartsByWidth starts;
+  for (int y = 0; y < bitmap.height; ++y) {
+    const Pixel* const row = bitmap.pixels.data() + static_cast<std::ptrdiff_t>(y) * bitmap.width;
+    for (int x = 0; x < bitmap.width;) {
       const int start = x;
-      while (x < Width() && !IsTransparent(key_, row[x])) ++x;
-      if (x > start) AddRun(start, y, x - start);
-      ++x;
+      const int end = std::min(start + kWidestRow, bitmap.width);
+      while (x < end && !IsTransparent(key, row[x])) ++x;
+      if (x == start) {
+        ++x;
+      } else {
+        starts[x - start].push_back({start, y});
+      }
     }
   }
+  return starts;
 }
 
-void Picture::AddRun(int x, int y, int length) {
-  const auto size =
-      static_cast<std::size_t>(std::ranges::lower_bound(kRunSizes, length) - kRunSizes.begin());
-  if (opaque_.groups.empty() || opaque_.groups.back().size != size) {
-    opaque_.groups.push_back({size, 0});
+/// Cuts rows of a width that is rare in the picture into two of a common one, which overlap: to go
+/// from width to width costs more than a few rows twice.
+StartsByWidth JoinRareWidths(const StartsByWidth& starts) {
+  constexpr std::size_t kRare = 3;
+  constexpr int kNarrow = 4;
+  StartsByWidth joined;
+  for (const auto& [width, points] : starts) {
+    const bool keep = points.size() >= kRare || width < kNarrow;
+    const int part = keep ? width : static_cast<int>(std::bit_floor(unsigned(width)));
+    for (const auto [x, y] : points) {
+      joined[part].push_back({x, y});
+      if (part < width) joined[part].push_back({x + width - part, y});
+    }
   }
-  ++opaque_.groups.back().count;
-  opaque_.runs.push_back(
-      {static_cast<std::uint32_t>(y * kScreenWidth + x), static_cast<std::uint32_t>(length)});
-  const auto first = bitmap_.pixels.begin() + (static_cast<std::ptrdiff_t>(y) * Width() + x);
-  opaque_.pixels.insert(opaque_.pixels.end(), first, first + length);
+  return joined;
 }
+
+bool AreStacked(const std::vector<Point>& points) {
+  constexpr std::size_t kWorthwhile = 4;
+  if (points.size() < kWorthwhile) return false;
+  const auto isNotBelow = [](Point above, Point point) {
+    return point != Point{above.x, above.y + 1};
+  };
+  return std::ranges::adjacent_find(points, isNotBelow) == points.end();
+}
+
+PixelRows ToRows(const Bitmap& bitmap, const StartsByWidth& starts) {
+  PixelRows rows;
+  for (const auto& [width, points] : starts) {
+    const bool stacked = AreStacked(points);
+    rows.groups.push_back(
+        {static_cast<std::uint16_t>(width), stacked, static_cast<std::uint32_t>(points.size())});
+    for (const Point& start : points) {
+      if (!stacked || start == points.front()) {
+        rows.places.push_back(static_cast<std::uint32_t>(start.y * kScreenWidth + start.x));
+      }
+      const auto first =
+          bitmap.pixels.begin() + static_cast<std::ptrdiff_t>(start.y) * bitmap.width + start.x;
+      rows.pixels.insert(rows.pixels.end(), first, first + width);
+    }
+  }
+  return rows;
+}
+
+}  // namespace
+
+Picture::Picture(Bitmap bitmap, KeyMode key)
+    : bitmap_(std::move(bitmap)),
+      key_(key),
+      opaque_(ToRows(bitmap_, JoinRareWidths(FindOpaque(bitmap_, key_)))) {}
 
 Picture Picture::Cut(const Rect& part) const {
   if (!Bounds().Holds(part)) return {};

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <array>
 #include <vector>
 
 #include "render/bitmap.h"
+#include "render/copy_rows.h"
 #include "render/pixels.h"
 
 namespace coilrun {
@@ -27,31 +27,6 @@ constexpr bool IsTransparent(KeyMode key, Pixel pixel) {
   return (pixel >> 16) <= 10 && (pixel >> 8 & 0xFF) <= 10 && (pixel & 0xFF) <= 10;
 }
 
-/// Pixels side by side in a row, all opaque. `place` is where they start on the screen, relative to
-/// the picture's top left.
-struct OpaqueRun {
-  std::uint32_t place;
-  std::uint32_t length;
-};
-
-/// Up to how many pixels a run of each size has; a size more for longer ones. Runs of one size are
-/// copied in the same steps, without a decision.
-inline constexpr std::array kRunSizes = {1, 3, 4, 8, 12, 16, 20};
-
-/// Runs of one size that follow one another.
-struct RunGroup {
-  std::size_t size;  ///< index in kRunSizes, or beyond its end
-  std::size_t count;
-};
-
-/// The opaque pixels of a picture row by row, so that memory is written in order. `pixels` are
-/// those of all runs, side by side.
-struct OpaqueRuns {
-  std::vector<RunGroup> groups;
-  std::vector<OpaqueRun> runs;
-  std::vector<Pixel> pixels;
-};
-
 /// A picture held in memory, its colour key resolved. A default-made one is unset: drawing it draws
 /// nothing.
 class Picture {
@@ -68,16 +43,13 @@ class Picture {
   /// A part as a picture of its own; unset when it does not lie wholly inside.
   Picture Cut(const Rect& part) const;
 
-  const OpaqueRuns& Opaque() const { return opaque_; }
-  /// How many pixels a keyed draw of the whole picture changes.
-  int OpaquePixels() const { return static_cast<int>(opaque_.pixels.size()); }
+  /// What a keyed draw of the whole picture copies, in places from the picture's top left.
+  const PixelRows& Opaque() const { return opaque_; }
 
  private:
-  void AddRun(int x, int y, int length);
-
   Bitmap bitmap_;
   KeyMode key_ = KeyMode::kBlack;
-  OpaqueRuns opaque_;
+  PixelRows opaque_;
 };
 
 }  // namespace coilrun

@@ -4,7 +4,6 @@
 #include <array>
 
 #include "model/snakes_in_play.h"
-#include "render/snake_pieces.h"
 
 namespace coilrun {
 namespace {
@@ -37,10 +36,13 @@ void PlayField::DrawStartMarkers() {
 void PlayField::DrawItems(ItemKind kind, bool forceFlat) {
   const ItemList& items = state_.Items(kind);
   const bool animated = state_.settings.AnimatedItems && !forceFlat;
-  ItemPicture& picture = animated ? items_.Frame(kind, state_.timers.AnimFrame) : items_.Flat(kind);
+  ItemPicture& shown = animated ? items_.Frame(kind, state_.timers.AnimFrame) : items_.Flat(kind);
+  const Picture* picture = nullptr;
   const auto* const end = items.slots.begin() + items.Live();
   for (const auto* item = items.slots.begin(); item != end; ++item) {
-    if (item->Present) items_.Draw(canvas_.Back(), picture, item->X, item->Y);
+    if (!item->Present) continue;
+    if (picture == nullptr) picture = &items_.Fetch(shown.picture);
+    canvas_.Back().Blit(*picture, shown.part, item->X, item->Y, true);
   }
 }
 
@@ -75,26 +77,26 @@ void PlayField::DrawUserItems() {
 }
 
 void PlayField::DrawSnake(int snake) {
-  DrawSnakeHead(snake);
-  for (int seg = state_.Snakes(snake).Length - 1; seg >= 1; --seg) DrawSnakeSeg(seg, snake);
-  DrawSnakeTail(snake);
+  const SnakeRec& drawn = state_.Snakes(snake);
+  DrawSnakeHead(drawn);
+  const BodyPictures pictures = PicturesOf(drawn);
+  for (int seg = std::min<int>(drawn.Length - 1, drawn.Seg.kLast); seg >= 1; --seg) {
+    DrawSnakeSeg(drawn.Seg(seg), pictures);
+  }
+  DrawSnakeTail(drawn);
 }
 
-void PlayField::DrawSnakeHead(int snake) {
-  const SnakeRec& drawn = state_.Snakes(snake);
-  DrawPiece(HeadPiece(drawn.Dir), drawn.Model, drawn.X, drawn.Y);
+void PlayField::DrawSnakeHead(const SnakeRec& snake) {
+  DrawPiece(HeadPiece(snake.Dir), snake.Model, snake.X, snake.Y);
 }
 
-void PlayField::DrawSnakeSeg(int seg, int snake) {
-  const SnakeRec& drawn = state_.Snakes(snake);
-  if (!drawn.Seg.Holds(seg)) return;
-  const SegRec& cell = drawn.Seg(seg);
-  DrawPiece(BodyPiece(cell.Dir, PackOf(drawn)), drawn.Model, cell.X, cell.Y);
+void PlayField::DrawSnakeSeg(const SegRec& cell, const BodyPictures& pictures) {
+  const Picture* const picture = pictures[static_cast<std::size_t>(cell.Dir)];
+  if (picture != nullptr) canvas_.Back().Blit(*picture, cell.X, cell.Y);
 }
 
-void PlayField::DrawSnakeTail(int snake) {
-  const SnakeRec& drawn = state_.Snakes(snake);
-  DrawPiece(TailPiece(drawn.Tail.Dir, PackOf(drawn)), drawn.Model, drawn.Tail.X, drawn.Tail.Y);
+void PlayField::DrawSnakeTail(const SnakeRec& snake) {
+  DrawPiece(TailPiece(snake.Tail.Dir, PackOf(snake)), snake.Model, snake.Tail.X, snake.Tail.Y);
 }
 
 void PlayField::DrawSnakes(const Table<bool, kMaxSnakes>& shown) {
@@ -103,7 +105,16 @@ void PlayField::DrawSnakes(const Table<bool, kMaxSnakes>& shown) {
   }
 }
 
-void PlayField::DrawPiece(std::optional<ModelPiece> piece, int model, int x, int y) {
+PlayField::BodyPictures PlayField::PicturesOf(const SnakeRec& snake) const {
+  BodyPictures pictures{};
+  for (int dir = 0; dir < kDirs; ++dir) {
+    const SnakePiece piece = BodyPiece(static_cast<Dir>(dir), PackOf(snake));
+    if (piece) pictures[static_cast<std::size_t>(dir)] = &models_(snake.Model, *piece);
+  }
+  return pictures;
+}
+
+void PlayField::DrawPiece(SnakePiece piece, int model, int x, int y) {
   if (piece) canvas_.Back().Blit(models_(model, *piece), x, y);
 }
 

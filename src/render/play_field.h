@@ -4,6 +4,7 @@
 #include "render/canvas.h"
 #include "render/item_pictures.h"
 #include "render/model_pictures.h"
+#include "render/snake_pieces.h"
 #include "render/standard_pictures.h"
 
 namespace coilrun {
@@ -27,14 +28,18 @@ class PlayField {
 
   /// Head, body and tail of a snake (1 to 16).
   void DrawSnake(int snake);
-  void DrawSnakeHead(int snake);
-  void DrawSnakeSeg(int seg, int snake);
-  void DrawSnakeTail(int snake);
   /// The snakes in play for which `shown` says so.
   void DrawSnakes(const Table<bool, kMaxSnakes>& shown);
 
  private:
-  void DrawPiece(std::optional<ModelPiece> piece, int model, int x, int y);
+  /// By direction or turn the picture of a body cell; null where none is drawn.
+  using BodyPictures = std::array<const Picture*, kDirs>;
+
+  void DrawSnakeHead(const SnakeRec& snake);
+  void DrawSnakeSeg(const SegRec& cell, const BodyPictures& pictures);
+  void DrawSnakeTail(const SnakeRec& snake);
+  BodyPictures PicturesOf(const SnakeRec& snake) const;
+  void DrawPiece(SnakePiece piece, int model, int x, int y);
   const ModelPack& PackOf(const SnakeRec& snake) const;
 
   const State& state_;

@@ -96,8 +96,4 @@ void StandardPictures::Load(Standard which) {
       loader_.DD_CreateSurfFromFile(InProgramFolder(path), file.size, KeyMode::kBlack);
 }
 
-const Picture& StandardPictures::operator()(Standard which) const {
-  return pictures_[Index(which)];
-}
-
 }  // namespace coilrun

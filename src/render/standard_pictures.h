@@ -56,7 +56,9 @@ class StandardPictures {
   /// The level's background, `State::level.BkgPic` below the program folder; without one, none.
   void LoadBackground();
 
-  const Picture& operator()(Standard which) const;
+  const Picture& operator()(Standard which) const {
+    return pictures_[static_cast<std::size_t>(which)];
+  }
   /// Width of the pause picture's bitmap file, which centres it; 0 when it could not be read.
   int PauseFileWidth() const { return pauseFileWidth_; }
 

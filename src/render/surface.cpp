@@ -1,51 +1,10 @@
 #include "render/surface.h"
 
 #include <algorithm>
-#include <array>
 #include <cstring>
 
 namespace coilrun {
 namespace {
-
-constexpr Rect kScreen{0, 0, kScreenWidth, kScreenHeight};
-
-constexpr Rect At(const Rect& size, int x, int y) {
-  return {x, y, x + size.Width(), y + size.Height()};
-}
-
-template <std::size_t kPixels>
-void CopyPixels(const Pixel* from, Pixel* to) {
-  std::memcpy(to, from, kPixels * sizeof(Pixel));
-}
-
-/// Copies runs in pieces of `kPiece` pixels: `kPieces` of them from the start, and one that ends
-/// where the run ends. That one may reach back over pixels copied before, never beyond the run.
-/// Returns where the pixels of the next run lie.
-template <std::size_t kPiece, std::size_t kPieces>
-const Pixel* CopyRuns(std::span<const OpaqueRun> runs, const Pixel* from, Pixel* to) {
-  for (const auto [place, length] : runs) {
-    Pixel* const start = to + place;
-    for (std::size_t at = 0; at < kPieces * kPiece; at += kPiece) {
-      CopyPixels<kPiece>(from + at, start + at);
-    }
-    CopyPixels<kPiece>(from + length - kPiece, start + length - kPiece);
-    from += length;
-  }
-  return from;
-}
-
-const Pixel* CopyLongRuns(std::span<const OpaqueRun> runs, const Pixel* from, Pixel* to) {
-  for (const auto [place, length] : runs) {
-    std::memcpy(to + place, from, length * sizeof(Pixel));
-    from += length;
-  }
-  return from;
-}
-
-/// By size of the runs.
-constexpr std::array<decltype(&CopyLongRuns), kRunSizes.size() + 1> kCopy = {
-    CopyRuns<1, 0>, CopyRuns<2, 1>, CopyRuns<4, 0>, CopyRuns<4, 1>,
-    CopyRuns<4, 2>, CopyRuns<4, 3>, CopyRuns<4, 4>, CopyLongRuns};
 
 constexpr Pixel Mix(Pixel below, Color color, unsigned coverage) {
   const auto channel = [coverage](unsigned under, unsigned over) {
@@ -57,11 +16,7 @@ constexpr Pixel Mix(Pixel below, Color color, unsigned coverage) {
 
 }  // namespace
 
-Surface::Surface() : pixels_(kScreenPixels, 0) {}
-
-Pixel* Surface::At(int x, int y) {
-  return pixels_.data() + static_cast<std::ptrdiff_t>(y) * kScreenWidth + x;
-}
+Surface::Surface() : pixels_(kScreenPixels, 0), copyRows_(FastestRowCopier()) {}
 
 void Surface::Fill(Color color) {
   std::fill(pixels_.begin(), pixels_.end(), color.ToPixel());
@@ -77,27 +32,7 @@ void Surface::FillRect(const Rect& rect, Color color) {
   }
 }
 
-void Surface::Blit(const Picture& picture, int x, int y) {
-  if (!kScreen.Holds(coilrun::At(picture.Bounds(), x, y))) return;
-  const OpaqueRuns& opaque = picture.Opaque();
-  Pixel* const to = At(x, y);
-  const Pixel* from = opaque.pixels.data();
-  const OpaqueRun* run = opaque.runs.data();
-  for (const auto [size, count] : opaque.groups) {
-    from = kCopy[size]({run, count}, from, to);
-    run += count;
-  }
-}
-
-void Surface::Blit(const Picture& picture, const Rect& from, int x, int y, bool keyed) {
-  if (keyed && from == picture.Bounds()) {
-    Blit(picture, x, y);
-  } else if (picture.Bounds().Holds(from) && kScreen.Holds(coilrun::At(from, x, y))) {
-    keyed ? CopyKeyed(picture, from, x, y) : CopyRows(picture, from, x, y);
-  }
-}
-
-void Surface::CopyRows(const Picture& picture, const Rect& from, int x, int y) {
+void Surface::CopyPart(const Picture& picture, const Rect& from, int x, int y) {
   const Pixel* source =
       picture.Pixels().data() + static_cast<std::ptrdiff_t>(from.top) * picture.Width() + from.left;
   const bool wholeRows = from.Width() == kScreenWidth && picture.Width() == kScreenWidth;
@@ -108,7 +43,7 @@ void Surface::CopyRows(const Picture& picture, const Rect& from, int x, int y) {
   }
 }
 
-void Surface::CopyKeyed(const Picture& picture, const Rect& from, int x, int y) {
+void Surface::CopyPartKeyed(const Picture& picture, const Rect& from, int x, int y) {
   for (int row = 0; row < from.Height(); ++row) {
     const Pixel* const source = picture.Pixels().data() +
                                 static_cast<std::ptrdiff_t>(from.top + row) * picture.Width() +

@@ -19,9 +19,17 @@ class Surface {
   /// Fills the part of the rectangle that lies on the screen.
   void FillRect(const Rect& rect, Color color);
   /// Draws the whole picture with its colour key.
-  void Blit(const Picture& picture, int x, int y);
+  void Blit(const Picture& picture, int x, int y) {
+    if (Holds(picture.Bounds(), x, y)) copyRows_(picture.Opaque(), At(x, y));
+  }
   /// Draws a part of the picture, with or without its colour key.
-  void Blit(const Picture& picture, const Rect& from, int x, int y, bool keyed);
+  void Blit(const Picture& picture, const Rect& from, int x, int y, bool keyed) {
+    if (keyed && from == picture.Bounds()) {
+      Blit(picture, x, y);
+    } else if (picture.Bounds().Holds(from) && Holds(from, x, y)) {
+      keyed ? CopyPartKeyed(picture, from, x, y) : CopyPart(picture, from, x, y);
+    }
+  }
   /// Lays a text over the pixels; what leaves the screen is cut off.
   void BlendText(const TextMask& mask, int x, int y, Color color);
 
@@ -29,11 +37,18 @@ class Surface {
   std::span<Pixel, kScreenPixels> Pixels() { return std::span<Pixel, kScreenPixels>{pixels_}; }
 
  private:
-  Pixel* At(int x, int y);
-  void CopyRows(const Picture& picture, const Rect& from, int x, int y);
-  void CopyKeyed(const Picture& picture, const Rect& from, int x, int y);
+  static constexpr bool Holds(const Rect& size, int x, int y) {
+    return x >= 0 && y >= 0 && x + size.Width() <= kScreenWidth &&
+           y + size.Height() <= kScreenHeight;
+  }
+  Pixel* At(int x, int y) {
+    return pixels_.data() + static_cast<std::ptrdiff_t>(y) * kScreenWidth + x;
+  }
+  void CopyPart(const Picture& picture, const Rect& from, int x, int y);
+  void CopyPartKeyed(const Picture& picture, const Rect& from, int x, int y);
 
   std::vector<Pixel> pixels_;
+  RowCopier copyRows_;
 };
 
 }  // namespace coilrun

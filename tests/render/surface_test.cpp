@@ -54,6 +54,13 @@ Bitmap RandomMask(int width, int height, KeyMode key, Rnd& rnd) {
   });
 }
 
+/// Rows of one length, one below the other.
+Bitmap Slab(int width, int height, KeyMode key) {
+  return MakeBitmap(width, height, [&](int x, int y) {
+    return x + 1 < width ? 0xC000U + static_cast<Pixel>(40 * y + x) : KeyPixel(key);
+  });
+}
+
 TEST(Blit, CopiesWhatAPixelByPixelDrawCopies) {
   Rnd rnd;
   const std::vector<Point> places = {{0, 0},   {3, 5},     {638, 479}, {-1, 0},    {0, -1},
@@ -65,6 +72,9 @@ TEST(Blit, CopiesWhatAPixelByPixelDrawCopies) {
       for (const Point at : places) ExpectSameAsSlow(bitmap, key, whole, at.x, at.y, true);
       ExpectSameAsSlow(bitmap, key, whole, 640 - size.x, 480 - size.y, true);
       ExpectSameAsSlow(bitmap, key, whole, 9, 9, false);
+    }
+    for (int width = 1; width < 60; ++width) {
+      ExpectSameAsSlow(Slab(width, 9, key), key, {0, 0, width, 9}, 40, 471, true);
     }
   }
 }
