@@ -128,6 +128,19 @@ TEST_F(ContentTest, LaterRunsUseWhatIsThereAndKeepItWhenAsked) {
   EXPECT_EQ(FilesIn(Data()), shipped_);
 }
 
+TEST_F(ContentTest, AReadOnlyProgramFolderIsPlayedFromThePlayersOwn) {
+  folder_.MakeReadOnly();
+  const fs::path own = folder_.Home() / "user";
+  const GameRun killed = PlayAndKill();
+  EXPECT_EQ(killed.exitCode, 0) << killed.errors;
+  EXPECT_THAT(killed.states, SizeIs(1));
+  EXPECT_THAT(FilesIn(own), IsSupersetOf({"data/gfx/brik.bmp", "data/Snd/collect.wav"}));
+  EXPECT_EQ(FilesIn(Data()), shipped_);
+
+  EXPECT_EQ(PlayAndExit().exitCode, 0);
+  EXPECT_EQ(FilesIn(own), std::set<std::string>{"coilrun.ini"});
+}
+
 TEST_F(ContentTest, AHostilePackHarmsNothingAndIsNamed) {
   const std::vector<RarSource> entries = {
       {"../lvl/evil.dat", false, 0, BytesOf("x")},

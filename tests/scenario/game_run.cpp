@@ -9,6 +9,7 @@
 #include <stdexcept>
 
 #include <sys/wait.h>
+#include <unistd.h>
 
 namespace coilrun {
 namespace {
@@ -18,6 +19,9 @@ namespace fs = std::filesystem;
 /// What a program folder holds before anybody has played in it.
 constexpr std::array kShipped = {"gfx.snr", "snd.snr",      "models",       "music",
                                  "fonts",   "defaults.ini", "AI_Names.lst", "intro.bmp"};
+
+constexpr fs::perms kWriting =
+    fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
 
 std::string InQuotes(const std::string& argument) {
   std::string quoted = "'";
@@ -72,7 +76,8 @@ std::optional<nlohmann::json> FirstWhere(const GameRun& run,
   return *found;
 }
 
-ProgramFolder::ProgramFolder() : home_(FreshFolder()) {
+ProgramFolder::ProgramFolder()
+    : home_(FreshFolder()), program_(InQuotes(COILRUN_BUILD_DIR "/game/coilrun")) {
   fs::create_directory(Data());
   const fs::path built = COILRUN_BUILD_DIR "/game";
   for (const char* const name : kShipped) {
@@ -84,6 +89,9 @@ ProgramFolder::ProgramFolder() : home_(FreshFolder()) {
 
 ProgramFolder::~ProgramFolder() {
   std::error_code ignored;
+  for (const auto& entry : fs::recursive_directory_iterator(home_, ignored)) {
+    if (entry.is_directory(ignored)) fs::permissions(entry, fs::perms::owner_all, ignored);
+  }
   fs::remove_all(home_, ignored);
 }
 
@@ -101,8 +109,7 @@ GameRun ProgramFolder::Play(const std::string& script,
 }
 
 GameRun ProgramFolder::Run(const std::vector<std::string>& arguments) const {
-  std::string command =
-      "cd " + InQuotes(home_.string()) + " && timeout 120 " COILRUN_BUILD_DIR "/game/coilrun";
+  std::string command = "cd " + InQuotes(home_.string()) + " && timeout 120 " + program_;
   for (const std::string& argument : arguments) command += ' ' + InQuotes(argument);
   const int status = std::system((command + " >output 2>errors </dev/null").c_str());
   GameRun run;
@@ -110,6 +117,20 @@ GameRun ProgramFolder::Run(const std::vector<std::string>& arguments) const {
   run.output = ReadFile(home_ / "output");
   run.errors = ReadFile(home_ / "errors");
   return run;
+}
+
+void ProgramFolder::MakeReadOnly() {
+  const fs::path program = home_ / "coilrun";
+  fs::copy_file(COILRUN_BUILD_DIR "/game/coilrun", program);
+  fs::permissions(home_, fs::perms::all);
+  for (const auto& entry : fs::recursive_directory_iterator(Data())) {
+    fs::permissions(entry, kWriting, fs::perm_options::remove);
+  }
+  fs::permissions(Data(), kWriting, fs::perm_options::remove);
+  // Nothing is read-only for root, so the program runs as nobody then.
+  const bool isRoot = geteuid() == 0;
+  const std::string asNobody = "setpriv --reuid=65534 --regid=65534 --clear-groups ";
+  program_ = (isRoot ? asNobody : "") + InQuotes(program.string());
 }
 
 }  // namespace coilrun

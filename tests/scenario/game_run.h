@@ -55,8 +55,13 @@ class ProgramFolder {
   /// Runs the built program with these arguments only.
   GameRun Run(const std::vector<std::string>& arguments) const;
 
+  /// From now on the program may write beside the program folder, not in it.
+  void MakeReadOnly();
+
  private:
   std::filesystem::path home_;
+  /// How the program is started.
+  std::string program_;
 };
 
 std::string ReadFile(const std::filesystem::path& file);
