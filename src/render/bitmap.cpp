@@ -9,7 +9,7 @@ namespace coilrun {
 namespace {
 
 constexpr int kMaxSide = 4096;
-constexpr std::int64_t kMaxPixels = 4 * 1024 * 1024;
+constexpr std::int64_t kMaxPixels = std::int64_t{4} * 1024 * 1024;
 constexpr std::size_t kFileHeader = 14;
 constexpr std::uint32_t kCoreHeader = 12;
 constexpr std::uint32_t kInfoHeader = 40;

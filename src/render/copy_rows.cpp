@@ -21,7 +21,7 @@ struct Block {
 template <std::size_t kPixels>
 [[gnu::always_inline]] inline void CopyBlock(const Pixel* from, Pixel* to) {
   using Type = typename Block<kPixels>::Type;
-  *reinterpret_cast<Type*>(to) = *reinterpret_cast<const Type*>(from);
+  *reinterpret_cast<Type*>(to) = *reinterpret_cast<const Type*>(from);  // NOLINT: may alias
 }
 
 /// Copies blocks of `kBlock` pixels and a last, narrower one that ends where the row ends: it may

@@ -218,7 +218,7 @@ void Overlays::DrawLights() {
 }
 
 void Overlays::DrawPausePicture() {
-  const int x = RoundToInt(kScreenWidth / 2 - standard_.PauseFileWidth() / 2.0);
+  const int x = RoundToInt(kScreenWidth / 2.0 - standard_.PauseFileWidth() / 2.0);
   canvas_.Back().Blit(standard_(Standard::kPause), x, 210);
 }
 

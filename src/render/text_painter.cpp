@@ -27,7 +27,7 @@ int TextPainter::DrawBmpText(std::string_view text, int x, int y, int font, bool
 }
 
 int TextPainter::DrawBmpTextCentred(std::string_view text, int y, int font) {
-  const int x = RoundToInt(kScreenWidth / 2 - BitmapFonts::Width(text, font) / 2.0);
+  const int x = RoundToInt(kScreenWidth / 2.0 - BitmapFonts::Width(text, font) / 2.0);
   DrawBmpText(text, x, y, font);
   return x;
 }

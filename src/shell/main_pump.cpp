@@ -6,7 +6,7 @@ namespace {
 /// Sets a flag for as long as it lives.
 class Raised {
  public:
-  explicit Raised(bool& flag) : flag_(flag) { flag_ = true; }
+  explicit Raised(bool& flag) : flag_(flag) { flag = true; }
   ~Raised() { flag_ = false; }
   Raised(const Raised&) = delete;
   Raised& operator=(const Raised&) = delete;
