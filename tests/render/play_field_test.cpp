@@ -8,184 +8,159 @@
 namespace coilrun {
 namespace {
 
+using ::testing::ElementsAre;
 using enum ModelPiece;
-using Piece = std::optional<ModelPiece>;
-
-ModelPack Pack(bool edges, bool inverse, bool tail) {
-  return {"", "", "", "", edges, inverse, tail};
-}
 
 TEST(SnakePieces, FollowDirectionsTurnsAndTheModelsFlags) {
   struct Case {
     const char* dir;
-    Piece head;
-    Piece body;
-    Piece inverse;
-    Piece tail;
+    SnakePiece head;
+    SnakePiece body;
+    SnakePiece inverse;
+    SnakePiece tail;
   };
-  for (const Case& c : std::vector<Case>{{"", {}, {}, {}, {}},
-                                         {"Forw", kHeadForw, kForw, kForw, kTailForw},
-                                         {"Back", kHeadBack, kBack, kBack, kTailBack},
-                                         {"Left", kHeadLeft, kLeft, kLeft, kTailLeft},
-                                         {"Right", kHeadRight, kRight, kRight, kTailRight},
-                                         {"FL", {}, kBL, kBLInverse, kTailBL},
-                                         {"RF", {}, kFL, kFLInverse, kTailFL},
-                                         {"LB", {}, kBR, kBRInverse, kTailBR},
-                                         {"BR", {}, kFR, kFRInverse, kTailFR},
-                                         {"LF", {}, kFR, kFR, kTailRF},
-                                         {"RB", {}, kBL, kBL, kTailLB},
-                                         {"FR", {}, kBR, kBR, kTailBR2},
-                                         {"BL", {}, kFL, kFL, kTailFL2}}) {
+  const Case cases[] = {
+      {"", {}, {}, {}, {}},
+      {"Forw", kHeadForw, kForw, kForw, kTailForw},
+      {"Back", kHeadBack, kBack, kBack, kTailBack},
+      {"Left", kHeadLeft, kLeft, kLeft, kTailLeft},
+      {"Right", kHeadRight, kRight, kRight, kTailRight},
+      {"FL", {}, kBL, kBLInverse, kTailBL},
+      {"RF", {}, kFL, kFLInverse, kTailFL},
+      {"LB", {}, kBR, kBRInverse, kTailBR},
+      {"BR", {}, kFR, kFRInverse, kTailFR},
+      {"LF", {}, kFR, kFR, kTailRF},
+      {"RB", {}, kBL, kBL, kTailLB},
+      {"FR", {}, kBR, kBR, kTailBR2},
+      {"BL", {}, kFL, kFL, kTailFL2},
+  };
+  const auto pack = [](bool edges, bool inverse, bool tail) {
+    return ModelPack{"", "", "", "", edges, inverse, tail};
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.dir);
     const Dir dir = FromWord<Dir>(c.dir).value();
-    EXPECT_EQ(HeadPiece(dir), c.head) << c.dir;
-    EXPECT_EQ(BodyPiece(dir, Pack(true, false, false)), c.body) << c.dir;
-    EXPECT_EQ(BodyPiece(dir, Pack(true, true, false)), c.inverse) << c.dir;
-    EXPECT_EQ(TailPiece(dir, Pack(false, false, true)), c.tail) << c.dir;
-    EXPECT_EQ(BodyPiece(dir, Pack(false, true, true)), IsTurn(dir) ? Piece{} : c.body) << c.dir;
-    EXPECT_EQ(TailPiece(dir, Pack(true, true, false)), IsTurn(dir) ? Piece{} : c.tail) << c.dir;
+    EXPECT_EQ(HeadPiece(dir), c.head);
+    EXPECT_EQ(BodyPiece(dir, pack(true, false, false)), c.body);
+    EXPECT_EQ(BodyPiece(dir, pack(true, true, false)), c.inverse);
+    EXPECT_EQ(TailPiece(dir, pack(false, false, true)), c.tail);
+    EXPECT_EQ(BodyPiece(dir, pack(false, true, true)), IsTurn(dir) ? SnakePiece{} : c.body);
+    EXPECT_EQ(TailPiece(dir, pack(true, true, false)), IsTurn(dir) ? SnakePiece{} : c.tail);
   }
 }
 
-/// Every picture has a colour of its own.
-struct FieldStage : Stage {
-  FieldStage() {
-    const std::string gfx = ".\\gfx\\";
-    files.Put(gfx + "bkg_standart.bmp", Plain(640, 480, 0x101010));
-    int colour = 0;
-    for (const char* const wall :
+constexpr Pixel kBare = 0x101010;
+constexpr Pixel kHead = 0xC10000;
+constexpr Pixel kBody = 0xC20000;
+constexpr Pixel kTail = 0xC30000;
+constexpr Pixel kMarker = 0xC40000;
+
+/// Every picture has a colour of its own; walls count from 0xF1.
+struct PlayFieldTest : testing::Test, Stage {
+  PlayFieldTest() {
+    Put("bkg_standart", 640, 480, kBare);
+    Pixel wall = 0xF0;
+    for (const char* const name :
          {"brik_v", "brik_h", "brik_h_t", "brik_h_b", "brik_v_l", "brik_v_r", "brik"}) {
-      files.Put(gfx + wall + ".bmp", Plain(20, 20, Wall(++colour)));
+      Put(name, 20, 20, ++wall);
     }
-    for (const char* const piece : {"start", "head_left", "Snake_left", "tail_left"}) {
-      files.Put(gfx + "m\\" + piece + ".bmp", Plain(20, 20, Hue(piece)));
-    }
+    Put("m\\head_left", 20, 20, kHead);
+    Put("m\\Snake_left", 20, 20, kBody);
+    Put("m\\tail_left", 20, 20, kTail);
+    Put("m\\start", 20, 20, kMarker);
     state.ModelPacks(0).Dir = "m";
     renderer.LoadStandardPictures();
     renderer.LoadModelPictures(0);
-    renderer.Field().DrawBackground();
+    field.DrawBackground();
   }
-
-  static Pixel Wall(int number) { return 0x00FF00U + static_cast<Pixel>(number); }
-  static Pixel Hue(std::string_view name) {
-    return 0xC00000U + static_cast<Pixel>(name.size() * 1000 + static_cast<unsigned char>(name[0]));
-  }
+  PlayField& field = renderer.Field();
 };
 
-TEST(Walls, ShowThePictureOfTheirKind) {
-  FieldStage stage;
-  const std::array<int, 8> pictureOf = {0, 2, 1, 5, 6, 3, 4, 7};
-  stage.state.numWalls = 8;
+TEST_F(PlayFieldTest, WallsShowThePictureOfTheirKind) {
+  state.numWalls = kMaxWalls + 1;
   for (int kind = 0; kind < 8; ++kind) {
-    stage.state.Walls(kind + 1) = {20 * kind, 40, true, static_cast<WallKind>(kind)};
+    state.Walls(kind + 1) = {20 * kind, 40, true, static_cast<WallKind>(kind)};
   }
-  stage.state.Walls(4).Present = false;
-  stage.state.Walls(5).X = 630;
+  state.Walls(9) = {160, 40, false, WallKind::kS};
+  state.Walls(10) = {630, 40, true, WallKind::kS};  // leaves the screen: nothing is clipped
 
-  stage.renderer.Field().DrawWalls();
+  field.DrawWalls();
 
-  for (int kind = 0; kind < 8; ++kind) {
-    const bool drawn = kind != 0 && kind != 3 && kind != 4;
-    const Pixel expected =
-        drawn ? FieldStage::Wall(pictureOf.at(static_cast<std::size_t>(kind))) : 0x101010U;
-    EXPECT_EQ(stage.At(20 * kind + 9, 50), expected) << kind;
-  }
-  EXPECT_EQ(stage.At(635, 50), 0x101010U) << "nothing is clipped";
+  EXPECT_THAT(Row(50, {9, 29, 49, 69, 89, 109, 129, 149, 169, 635}),
+              ElementsAre(kBare, 0xF2, 0xF1, 0xF5, 0xF6, 0xF3, 0xF4, 0xF7, kBare, kBare));
 }
 
-TEST(Snakes, AreDrawnHeadThenBodyBackwardsThenTail) {
-  FieldStage stage;
-  SnakeRec& snake = stage.state.Snakes(1);
-  snake = {};
+TEST_F(PlayFieldTest, SnakesAreHeadBodyAndTail) {
+  SnakeRec& snake = state.Snakes(1);
   snake.X = 100;
   snake.Y = 100;
   snake.Dir = Dir::kLeft;
   snake.Length = 4;
-  snake.Seg(0) = {200, 100, Dir::kLeft};
+  for (SegRec& seg : snake.Seg) seg = {220, 100, Dir::kLeft};  // not of the body, but for 1 to 3
   snake.Seg(1) = {120, 100, Dir::kLeft};
-  snake.Seg(2) = {140, 100, Dir::kFL};
+  snake.Seg(2) = {140, 100, Dir::kFL};  // a corner, which this model has no picture of
   snake.Seg(3) = {160, 100, Dir::kLeft};
-  snake.Seg(4) = {220, 100, Dir::kLeft};
   snake.Tail = {180, 100, Dir::kLeft};
+  const std::vector<int> columns = {105, 125, 145, 165, 185, 225};
   Table<bool, kMaxSnakes> shown;
 
-  stage.renderer.Field().DrawSnakes(shown);
-  EXPECT_EQ(stage.At(105, 105), 0x101010U);
+  field.DrawSnakes(shown);
+  EXPECT_EQ(Row(105, columns), std::vector<Pixel>(6, kBare));
   shown(1) = true;
-  stage.renderer.Field().DrawSnakes(shown);
-
-  EXPECT_EQ(stage.At(105, 105), FieldStage::Hue("head_left"));
-  EXPECT_EQ(stage.At(125, 105), FieldStage::Hue("Snake_left"));
-  EXPECT_EQ(stage.At(145, 105), 0x101010U) << "no corners in this model";
-  EXPECT_EQ(stage.At(165, 105), FieldStage::Hue("Snake_left"));
-  EXPECT_EQ(stage.At(185, 105), FieldStage::Hue("tail_left"));
-  EXPECT_EQ(stage.At(205, 105), 0x101010U) << "Seg(0)";
-  EXPECT_EQ(stage.At(225, 105), 0x101010U) << "Seg(Length)";
+  field.DrawSnakes(shown);
+  EXPECT_THAT(Row(105, columns), ElementsAre(kHead, kBody, kBare, kBody, kTail, kBare));
 }
 
-TEST(StartMarkers, ShowWhereSnakesWaitAndMoveNobody) {
-  FieldStage stage;
-  stage.state.mode.NumSnakes = 2;
-  for (int s = 1; s <= 2; ++s) stage.state.Snakes(s).StartX = 100 * s;
-  stage.state.Snakes(2).Dir = Dir::kLeft;
+TEST_F(PlayFieldTest, StartMarkersShowWhereSnakesWaitAndMoveNobody) {
+  state.mode.NumSnakes = 2;
+  for (int s = 1; s <= 2; ++s) state.Snakes(s).StartX = 100 * s;
+  state.Snakes(2).Dir = Dir::kLeft;
 
-  stage.renderer.Field().DrawStartMarkers();
-  EXPECT_EQ(stage.At(105, 5), FieldStage::Hue("start"));
-  EXPECT_EQ(stage.At(205, 5), 0x101010U);
-  stage.state.shell.WaitingForStart = true;
-  stage.renderer.Field().DrawStartMarkers();
-
-  EXPECT_EQ(stage.At(205, 5), FieldStage::Hue("start"));
-  EXPECT_EQ(stage.state.Snakes(1).X, 0);
+  field.DrawStartMarkers();
+  EXPECT_THAT(Row(5, {105, 205}), ElementsAre(kMarker, kBare));
+  state.shell.WaitingForStart = true;
+  field.DrawStartMarkers();
+  EXPECT_EQ(At(205, 5), kMarker);
+  EXPECT_EQ(state.Snakes(1).X, 0);
 }
 
-TEST(Items, ShowTheFrameOrTheStillPicture) {
-  struct Case {
-    bool animated;
-    bool forceFlat;
-    Pixel expected;
-    bool tall;
+TEST_F(PlayFieldTest, ItemsShowTheFrameOrTheStillPicture) {
+  constexpr Pixel kFrame = 0xFF0007;
+  constexpr Pixel kStill = 0x00FF00;
+  Put("Yellow_animated\\7", 16, 24, kFrame);
+  Put("banana", 16, 16, kStill);
+  state.timers.AnimFrame = 7;
+  ItemList& items = state.Items(ItemKind::kYellow);
+  items.count = 2;
+  items(1) = {50, 60, true, -1, false};
+  items(2) = {90, 60, false, -1, false};
+  const auto draw = [this](bool animated, bool forceFlat) {
+    field.DrawBackground();
+    state.settings.AnimatedItems = animated;
+    field.DrawItems(ItemKind::kYellow, forceFlat);
+    return At({{65, 75}, {50, 83}, {95, 75}});
   };
-  for (const Case& c : std::vector<Case>{{true, false, 0xFF0007, true},
-                                         {true, true, 0x00FF00, false},
-                                         {false, false, 0x00FF00, false}}) {
-    FieldStage stage;
-    stage.files.Put(".\\gfx\\Yellow_animated\\7.bmp", Plain(16, 24, 0xFF0007));
-    stage.files.Put(".\\gfx\\banana.bmp", Plain(16, 16, 0x00FF00));
-    stage.state.timers.AnimFrame = 7;
-    stage.state.settings.AnimatedItems = c.animated;
-    ItemList& items = stage.state.Items(ItemKind::kYellow);
-    items.count = 2;
-    items(1) = {50, 60, true, -1, false};
-    items(2) = {90, 60, false, -1, false};
 
-    stage.renderer.Field().DrawItems(ItemKind::kYellow, c.forceFlat);
-
-    EXPECT_EQ(stage.At(65, 75), c.expected);
-    EXPECT_EQ(stage.At(50, 83), c.tall ? c.expected : 0x101010U);
-    EXPECT_EQ(stage.At(95, 65), 0x101010U) << "absent";
-  }
+  EXPECT_THAT(draw(true, false), ElementsAre(kFrame, kFrame, kBare)) << "24 rows";
+  EXPECT_THAT(draw(true, true), ElementsAre(kStill, kBare, kBare)) << "16 rows";
+  EXPECT_THAT(draw(false, false), ElementsAre(kStill, kBare, kBare));
 }
 
-TEST(UserItems, ShowStillAndMovingWallsByTheirType) {
-  FieldStage stage;
-  stage.files.Put(".\\gfx\\crate.bmp", Plain(20, 20, 0x00AA00));
-  stage.files.Put(".\\gfx\\fan\\3.bmp", Plain(20, 20, 0x00BB00));
-  stage.files.Put(".\\gfx\\smoke\\3.bmp", Plain(20, 20, 0x838383));
-  stage.state.timers.AnimFrame = 3;
-  stage.state.numUserItems = 5;
-  stage.state.UserItems(1) = {20, 20, true, "crate.bmp", "wall_no_tnt"};
-  stage.state.UserItems(2) = {40, 20, true, "fan", "ani_wall"};
-  stage.state.UserItems(3) = {60, 20, true, "crate.bmp", "ani"};
-  stage.state.UserItems(4) = {80, 20, false, "crate.bmp", "wall"};
-  stage.state.UserItems(5) = {100, 20, true, "smoke", "ani_wall"};
+TEST_F(PlayFieldTest, UserItemsShowStillAndMovingWallsByTheirType) {
+  Put("crate", 20, 20, 0x00AA00);
+  Put("fan\\3", 20, 20, 0x00BB00);
+  Put("smoke\\3", 20, 20, 0x838383);  // the grey of animations: transparent
+  state.timers.AnimFrame = 3;
+  state.numUserItems = kMaxUserItems + 1;
+  state.UserItems(1) = {20, 20, true, "crate.bmp", "wall_no_tnt"};
+  state.UserItems(2) = {40, 20, true, "fan", "ani_wall"};
+  state.UserItems(3) = {60, 20, true, "crate.bmp", "ani"};
+  state.UserItems(4) = {80, 20, false, "crate.bmp", "wall"};
+  state.UserItems(5) = {100, 20, true, "smoke", "ani_wall"};
 
-  stage.renderer.Field().DrawUserItems();
+  field.DrawUserItems();
 
-  EXPECT_EQ(stage.At(25, 25), 0x00AA00U);
-  EXPECT_EQ(stage.At(45, 25), 0x00BB00U);
-  EXPECT_EQ(stage.At(65, 25), 0x101010U);
-  EXPECT_EQ(stage.At(85, 25), 0x101010U);
-  EXPECT_EQ(stage.At(105, 25), 0x101010U) << "the grey of animations is transparent";
+  EXPECT_THAT(Row(25, {25, 45, 65, 85, 105}), ElementsAre(0x00AA00, 0x00BB00, kBare, kBare, kBare));
 }
 
 }  // namespace

@@ -1,34 +1,26 @@
 #pragma once
 
-#include <cctype>
-#include <map>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "render/renderer.h"
+#include "support/fake_files.h"
+#include "support/fake_pump.h"
 
 namespace coilrun {
 
-/// A bitmap file with 24 bits a pixel, stored from the bottom up.
+/// A bitmap file with 32 bits a pixel, stored from the top down.
 inline Bytes EncodeBmp(const Bitmap& bitmap) {
-  Bytes file;
-  const auto number = [&file](std::uint32_t value, int size) {
-    for (int i = 0; i < size; ++i) file.push_back(static_cast<std::uint8_t>(value >> (8 * i)));
+  constexpr int kOnePlaneOf32Bits = 1 | 32 << 16;
+  Bytes file = {'B', 'M'};
+  const auto append = [&file](std::uint32_t number) {
+    for (int i = 0; i < 4; ++i) file.push_back(static_cast<std::uint8_t>(number >> (8 * i)));
   };
-  const int padding = (4 - bitmap.width * 3 % 4) % 4;
-  number(0x4D42, 2);
-  number(0, 4), number(0, 4), number(54, 4), number(40, 4);
-  number(static_cast<std::uint32_t>(bitmap.width), 4);
-  number(static_cast<std::uint32_t>(bitmap.height), 4);
-  number(1, 2), number(24, 2);
-  for (int i = 0; i < 6; ++i) number(0, 4);
-  for (int y = bitmap.height - 1; y >= 0; --y) {
-    for (int x = 0; x < bitmap.width; ++x) {
-      number(bitmap.pixels[static_cast<std::size_t>(y * bitmap.width + x)], 3);
-    }
-    number(0, padding);
+  for (const int number :
+       {0, 0, 54, 40, bitmap.width, -bitmap.height, kOnePlaneOf32Bits, 0, 0, 0, 0, 0, 0}) {
+    append(static_cast<std::uint32_t>(number));
   }
+  for (const Pixel pixel : bitmap.pixels) append(pixel);
   return file;
 }
 
@@ -45,39 +37,11 @@ inline Bitmap Plain(int width, int height, Pixel pixel) {
   return MakeBitmap(width, height, [pixel](int, int) { return pixel; });
 }
 
-/// Files in memory, found whatever the letter case.
-class MemoryFiles : public Files {
+/// Files in memory, among them pictures.
+class MemoryFiles : public FakeFiles {
  public:
-  void Put(const std::string& path, const Bitmap& bitmap) {
-    files_[Lower(path)] = EncodeBmp(bitmap);
-  }
-  void Put(const std::string& path, Bytes bytes) { files_[Lower(path)] = std::move(bytes); }
-  void Remove(const std::string& path) { files_.erase(Lower(path)); }
-
-  bool Exists(const std::string& path) const override { return files_.contains(Lower(path)); }
-  std::optional<Bytes> Read(const std::string& path) const override {
-    const auto found = files_.find(Lower(path));
-    if (found == files_.end()) return std::nullopt;
-    ++reads;
-    return found->second;
-  }
-  std::optional<std::vector<std::string>> List(const std::string&,
-                                               std::string_view) const override {
-    return std::nullopt;
-  }
-  bool Write(const std::string&, std::span<const std::uint8_t>) override { return false; }
-  bool MakeFolder(const std::string&) override { return false; }
-  bool Delete(const std::string&) override { return false; }
-  std::string FullName(const std::string& path) const override { return path; }
-
-  mutable int reads = 0;
-
- private:
-  static std::string Lower(std::string path) {
-    for (char& c : path) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-    return path;
-  }
-  std::map<std::string, Bytes> files_;
+  using FakeFiles::Put;
+  void Put(const std::string& path, const Bitmap& bitmap) { Write(path, EncodeBmp(bitmap)); }
 };
 
 /// Every character is a block of 6 x 8 pixels.
@@ -87,10 +51,8 @@ class BlockText : public TextFace {
     return 6 * static_cast<int>(text.size());
   }
   const TextMask& Render(const FontStyle& style, std::string_view text) override {
-    mask_.width = Measure(style, text);
-    mask_.height = 8;
-    mask_.coverage.assign(static_cast<std::size_t>(mask_.width * mask_.height), 255);
-    return mask_;
+    const int width = Measure(style, text);
+    return mask_ = {width, 8, std::vector<std::uint8_t>(static_cast<std::size_t>(width * 8), 255)};
   }
 
  private:
@@ -99,23 +61,12 @@ class BlockText : public TextFace {
 
 class AnsweringBox : public MessageBox {
  public:
-  BoxAnswer Show(const std::string& title, const std::string& text, BoxButtons) override {
-    shown.push_back(title + ": " + text);
+  BoxAnswer Show(const std::string&, const std::string&, BoxButtons) override {
+    ++shown;
     return answer;
   }
   BoxAnswer answer = BoxAnswer::kYes;
-  std::vector<std::string> shown;
-};
-
-class CountingPump : public Pump {
- public:
-  void Yield() override { ++yields; }
-  void Flip() override {}
-  void Present() override { ++presents; }
-  void Sleep(int) override {}
-
-  int yields = 0;
-  int presents = 0;
+  int shown = 0;
 };
 
 /// A renderer over a state made in code, with files in memory.
@@ -125,8 +76,25 @@ struct Stage {
     state.shell.DisplayReady = true;
   }
 
-  const Surface& Back() { return renderer.Screen().Back(); }
-  Pixel At(int x, int y) { return Back().Pixels()[static_cast<std::size_t>(y * kScreenWidth + x)]; }
+  /// A picture of one colour, by its name below the gfx folder without ".bmp".
+  void Put(const std::string& name, int width, int height, Pixel pixel) {
+    files.Put(".\\gfx\\" + name + ".bmp", Plain(width, height, pixel));
+  }
+  /// Pixels of the back buffer.
+  Pixel At(int x, int y) {
+    return renderer.Screen().Back().Pixels()[static_cast<std::size_t>(y * kScreenWidth + x)];
+  }
+  std::vector<Pixel> At(const std::vector<Point>& points) {
+    std::vector<Pixel> pixels;
+    for (const auto [x, y] : points) pixels.push_back(At(x, y));
+    return pixels;
+  }
+  /// Pixels of one row.
+  std::vector<Pixel> Row(int y, const std::vector<int>& columns) {
+    std::vector<Pixel> pixels;
+    for (const int x : columns) pixels.push_back(At(x, y));
+    return pixels;
+  }
   /// The texts on the back buffer as "X,Y font text".
   std::vector<std::string> Drawn() const {
     std::vector<std::string> texts;
@@ -141,7 +109,7 @@ struct Stage {
   MemoryFiles files;
   BlockText textFace;
   AnsweringBox box;
-  CountingPump pump;
+  FakePump pump;
   int givenUp = 0;
   Renderer renderer{state, {files, textFace, box, pump, [this] { ++givenUp; }, "1.2.24"}};
 };

@@ -14,18 +14,21 @@ TEST(BitmapFontWidth, IsWiderThanTheInk) {
     int font;
     int width;
   };
-  for (const Case& c : std::vector<Case>{{"", 1, 7},
-                                         {"", 3, 5},
-                                         {"AB", 1, 21},
-                                         {"AB", 3, 27},
-                                         {"AB", 2, 27},
-                                         {std::string(9, 'x'), 2, 90},
-                                         {std::string(10, 'x'), 2, 100},
-                                         {std::string(19, 'x'), 2, 181},
-                                         {"7", 5, 18},
-                                         {"A", 6, 16},
-                                         {"A", 0, 0},
-                                         {"A", 7, 0}}) {
+  const Case cases[] = {
+      {"", 1, 7},
+      {"", 3, 5},
+      {"AB", 1, 21},
+      {"AB", 2, 27},
+      {"AB", 3, 27},
+      {std::string(9, 'x'), 2, 90},
+      {std::string(10, 'x'), 2, 100},
+      {std::string(19, 'x'), 2, 181},
+      {"7", 5, 18},
+      {"A", 6, 16},
+      {"A", 0, 0},
+      {"A", 7, 0},
+  };
+  for (const Case& c : cases) {
     EXPECT_EQ(BitmapFonts::Width(c.text, c.font), c.width) << c.text << " in " << c.font;
   }
 }
@@ -39,41 +42,25 @@ TEST(GlyphRects, AreOneNarrowerThanTheCellAndRoundHalvesToEven) {
 }
 
 TEST(GlyphCells, HoldLettersDigitsAndThirteenSigns) {
-  struct Case {
-    char character;
-    GlyphCell cell;
-  };
-  for (const Case& c : std::vector<Case>{{'A', {0, 0}},
-                                         {'Z', {25, 0}},
-                                         {'a', {0, 1}},
-                                         {'z', {25, 1}},
-                                         {'0', {0, 2}},
-                                         {'9', {9, 2}},
-                                         {'.', {11, 2}},
-                                         {'=', {19, 2}},
-                                         {'\\', {20, 2}},
-                                         {'?', {23, 2}},
-                                         {' ', {10, 2}},
-                                         {',', {10, 2}},
-                                         {'\xE4', {10, 2}},
-                                         {'\0', {10, 2}}}) {
-    EXPECT_EQ(CellOf(c.character), c.cell) << c.character;
-  }
+  const std::vector<std::pair<char, GlyphCell>> cases = {
+      {'A', {0, 0}},  {'Z', {25, 0}}, {'a', {0, 1}},  {'z', {25, 1}},    {'0', {0, 2}},
+      {'9', {9, 2}},  {'.', {11, 2}}, {'=', {19, 2}}, {'\\', {20, 2}},   {'?', {23, 2}},
+      {' ', {10, 2}}, {',', {10, 2}}, {'@', {10, 2}}, {'\xE4', {10, 2}}, {'\0', {10, 2}}};
+  for (const auto& [character, cell] : cases) EXPECT_EQ(CellOf(character), cell) << character;
 }
 
-/// A stage whose font sheets are white all over.
-struct TextStage : Stage {
-  TextStage() {
-    const std::string folder = ".\\gfx\\fonts\\";
-    for (const char* const name : {"fnt_cour_8", "fnt_cour_11", "fnt_sys_8"}) {
-      files.Put(folder + name + ".bmp", Plain(499, 50, 0xFFFFFF));
-    }
-    for (const char* const name : {"fnt_bl_16", "fnt_DM_16"}) {
-      files.Put(folder + name + ".bmp", Plain(439, 133, 0xFFFFFF));
-    }
-    files.Put(folder + "fnt_cour_16.bmp", Plain(439, 140, 0xFFFFFF));
+/// Font sheets that are white all over.
+struct TextTest : testing::Test, Stage {
+  TextTest() {
+    for (const char* const name : {"cour_8", "cour_11", "sys_8"}) PutSheet(name, 499, 50);
+    for (const char* const name : {"bl_16", "DM_16"}) PutSheet(name, 439, 133);
+    PutSheet("cour_16", 439, 140);
     renderer.LoadStandardPictures();
     renderer.FillBack({});
+    state.mode.NumSnakes = 2;
+  }
+  void PutSheet(const std::string& name, int width, int height) {
+    Put("fonts\\fnt_" + name, width, height, 0xFFFFFF);
   }
   /// First column of each stretch of ink in row `y`.
   std::vector<int> InkStarts(int y) {
@@ -83,64 +70,51 @@ struct TextStage : Stage {
     }
     return starts;
   }
+  TextPainter& text = renderer.Text();
 };
 
-TEST(BitmapText, PutsGlyphsAtRoundedPlaces) {
-  TextStage stage;
-  TextPainter& text = stage.renderer.Text();
-
+TEST_F(TextTest, GlyphsStandAtRoundedPlaces) {
   EXPECT_EQ(text.DrawBmpText("AB", 18, 0, 1), 21);
   EXPECT_EQ(text.DrawBmpText("aaaaaaaaaaa", 0, 100, 4), 96);
   EXPECT_EQ(text.DrawBmpText("AA", 10, 200, 5), 30) << "5 left of x, then 11.7 on: 5 and 16.7";
   EXPECT_EQ(text.DrawBmpText("AB", 0, 300, 7), 0);
   EXPECT_EQ(text.DrawBmpText("AB", 0, 300, 1, true), 21);
 
-  EXPECT_THAT(stage.InkStarts(0), ElementsAre(18, 25));
-  EXPECT_THAT(stage.InkStarts(100), ElementsAre(0, 8, 16, 24, 32, 40, 48, 56, 64, 72, 80));
-  EXPECT_THAT(stage.InkStarts(200), ElementsAre(5)) << "the second glyph touches the first";
-  EXPECT_THAT(stage.InkStarts(300), IsEmpty());
-  EXPECT_THAT(stage.Drawn(), ElementsAre("18,0 1 AB", "0,100 4 aaaaaaaaaaa", "10,200 5 AA"));
+  EXPECT_THAT(InkStarts(0), ElementsAre(18, 25));
+  EXPECT_THAT(InkStarts(100), ElementsAre(0, 8, 16, 24, 32, 40, 48, 56, 64, 72, 80));
+  EXPECT_THAT(InkStarts(200), ElementsAre(5)) << "the second glyph touches the first";
+  EXPECT_THAT(InkStarts(300), IsEmpty());
+  EXPECT_THAT(Drawn(), ElementsAre("18,0 1 AB", "0,100 4 aaaaaaaaaaa", "10,200 5 AA"));
 }
 
-TEST(BitmapText, LeavesOutOnlyTheGlyphsThatLeaveScreenOrSheet) {
-  TextStage stage;
-  stage.renderer.Text().DrawBmpText("xxx", 628, 0, 1);
-  stage.renderer.Text().DrawBmpText("YZ", 100, 100, 3);
-
-  EXPECT_THAT(stage.InkStarts(0), ElementsAre(628)) << "the second would end at 641";
-  EXPECT_THAT(stage.InkStarts(100), ElementsAre(94)) << "the sheet ends inside Z";
+TEST_F(TextTest, OnlyGlyphsThatLeaveScreenOrSheetAreLeftOut) {
+  text.DrawBmpText("xxx", 628, 0, 1);
+  text.DrawBmpText("YZ", 100, 100, 3);
+  EXPECT_THAT(InkStarts(0), ElementsAre(628)) << "the second would end at 641";
+  EXPECT_THAT(InkStarts(100), ElementsAre(94)) << "the sheet ends inside Z";
 }
 
-TEST(CentredText, RoundsHalvesToEven) {
-  TextStage stage;
-  TextPainter& text = stage.renderer.Text();
-
+TEST_F(TextTest, CentredTextRoundsHalvesToEven) {
   EXPECT_EQ(text.DrawBmpTextCentred("AB", 5, 1), 310) << "320 - 10.5";
   EXPECT_EQ(text.DrawBmpTextCentred("ABCD", 5, 1), 302) << "320 - 17.5";
-  EXPECT_THAT(stage.Drawn(), ElementsAre("310,5 1 AB", "302,5 1 ABCD"));
+  EXPECT_THAT(Drawn(), ElementsAre("310,5 1 AB", "302,5 1 ABCD"));
 }
 
-TEST(SnakeNames, StandOverTheHeadsWhenAskedFor) {
-  Stage stage;
-  stage.state.mode.NumSnakes = 2;
-  stage.state.Snakes(1).Name = "Ann";
-  stage.state.Snakes(1).X = 101;
-  stage.state.Snakes(1).Y = 50;
-  stage.state.Snakes(2).X = 300;
-  TextPainter& text = stage.renderer.Text();
+TEST_F(TextTest, SnakeNamesStandOverTheHeadsWhenAskedFor) {
+  state.Snakes(1).Name = "Ann";
+  state.Snakes(1).X = 101;
+  state.Snakes(1).Y = 50;
 
   text.DrawSnakeNames(false);
-  EXPECT_THAT(stage.Drawn(), IsEmpty());
-  stage.state.keys.KeyPressed = 49;
+  EXPECT_THAT(Drawn(), IsEmpty());
+  state.keys.KeyPressed = 49;
   text.DrawSnakeNames(false);
-  stage.state.keys.KeyPressed = 0;
+  state.keys.KeyPressed = 0;
   text.DrawSnakeNames(true);
   text.DrawSystemText("next", 1, 1);
 
-  EXPECT_THAT(stage.Drawn(),
-              ElementsAre("102,40 Arial Ann", "102,40 Arial Ann", "1,1 Balloon next"));
-  EXPECT_EQ(stage.At(102, 40), (Color{200, 0, 0}.ToPixel()));
-  EXPECT_EQ(stage.At(1, 1), (Color{150, 0, 0}.ToPixel()));
+  EXPECT_THAT(Drawn(), ElementsAre("102,40 Arial Ann", "102,40 Arial Ann", "1,1 Balloon next"));
+  EXPECT_THAT(At({{102, 40}, {1, 1}}), ElementsAre(0xC80000, 0x960000));
 }
 
 }  // namespace

@@ -10,7 +10,7 @@
 namespace coilrun {
 
 /// Files in memory, by game path in any letter case. A folder exists while a file lies in it.
-class FakeFiles final : public Files {
+class FakeFiles : public Files {
  public:
   void Put(const std::string& path, std::string_view text) {
     contents[Key(path)] = Bytes(text.begin(), text.end());

@@ -13,13 +13,13 @@ class FakePump final : public Pump {
     ++yields;
     if (onYield) onYield();
   }
-  void Flip() override { ++flips; }
-  void Present() override {}
+  void Flip() override {}
+  void Present() override { ++presents; }
   void Sleep(int /*milliseconds*/) override {}
 
   std::function<void()> onYield;
   int yields = 0;
-  int flips = 0;
+  int presents = 0;
 };
 
 }  // namespace coilrun
