@@ -32,13 +32,10 @@ TEST(ToInt16, RoundsHalvesToEvenAndRefusesWhatDoesNotFit) {
 }
 
 TEST(ToBoolean, TakesWordsAndNumbers) {
-  EXPECT_EQ(ToBoolean("TRUE"), true);
-  EXPECT_EQ(ToBoolean("false"), false);
-  EXPECT_EQ(ToBoolean("0"), false);
-  EXPECT_EQ(ToBoolean("-1"), true);
-  EXPECT_EQ(ToBoolean("maybe"), std::nullopt);
-  EXPECT_EQ(ToBoolean("1st"), std::nullopt);
-  EXPECT_EQ(ToBoolean(""), std::nullopt);
+  const std::pair<const char*, std::optional<bool>> cases[] = {
+      {"TRUE", true},          {"false", false},      {"0", false},      {"-1", true},
+      {"maybe", std::nullopt}, {"1st", std::nullopt}, {"", std::nullopt}};
+  for (const auto& [text, value] : cases) EXPECT_EQ(ToBoolean(text), value) << text;
 }
 
 TEST(NumberText, IsPlainDecimal) {
