@@ -8,6 +8,7 @@ namespace coilrun {
 namespace {
 
 using ::testing::ElementsAre;
+using ::testing::FieldsAre;
 using ::testing::HasSubstr;
 
 const std::string kGfx = ".\\gfx\\";
@@ -78,40 +79,25 @@ TEST_F(PictureStoreTest, TellsAMissingPictureOnceAndGoesOn) {
 }
 
 TEST(PictureLoader, AsksOnlyForMissingFilesOfTheStart) {
-  struct Case {
-    const char* what;
-    bool ready;
-    bool modelPicture;
-    bool damaged;
-    BoxAnswer answer;
-    int boxes;
-    int givenUp;
-    const char* console;
-  };
-  const Case cases[] = {
-      {"no", false, false, false, BoxAnswer::kNo, 1, 1, ""},
-      {"yes", false, false, false, BoxAnswer::kYes, 1, 0, ""},
-      {"model", false, true, false, BoxAnswer::kNo, 0, 0, "Could not load model .\\gfx\\a.bmp\r\n"},
-      {"damaged", false, false, true, BoxAnswer::kNo, 0, 0, ""},
-      {"later", true, true, false, BoxAnswer::kNo, 0, 0, ""},
-  };
-  for (const Case& c : cases) {
-    SCOPED_TRACE(c.what);
+  // Answers how many boxes were shown, whether the player gave up, and the last console line.
+  const auto load = [](BoxAnswer answer, bool ready, LoadFlags flags, bool damaged) {
     StoreStage stage;
-    stage.state.shell.DisplayReady = c.ready;
-    stage.box.answer = c.answer;
-    if (c.damaged) stage.files.Put(kGfx + "a.bmp", "BM");
-
-    EXPECT_FALSE(stage.loader
-                     .DD_CreateSurfFromFile(kGfx + "a.bmp", std::nullopt, KeyMode::kBlack,
-                                            {.modelPicture = c.modelPicture})
-                     .IsSet());
-
-    EXPECT_EQ(stage.box.shown, c.boxes);
-    EXPECT_EQ(stage.givenUp, c.givenUp);
-    EXPECT_EQ(stage.state.feed.Console(5), c.console);
+    stage.box.answer = answer;
+    stage.state.shell.DisplayReady = ready;
+    if (damaged) stage.files.Put(kGfx + "a.bmp", "BM");
+    const Picture picture =
+        stage.loader.DD_CreateSurfFromFile(kGfx + "a.bmp", std::nullopt, KeyMode::kBlack, flags);
+    EXPECT_FALSE(picture.IsSet());
     EXPECT_EQ(stage.state.feed.LoadedCount, 1);
-  }
+    return std::tuple(stage.box.shown, stage.givenUp, stage.state.feed.Console(5));
+  };
+  constexpr LoadFlags kModel{.modelPicture = true};
+  EXPECT_THAT(load(BoxAnswer::kYes, false, {}, false), FieldsAre(1, 0, ""));
+  EXPECT_THAT(load(BoxAnswer::kNo, false, {}, false), FieldsAre(1, 1, ""));
+  EXPECT_THAT(load(BoxAnswer::kNo, false, {}, true), FieldsAre(0, 0, "")) << "it is there";
+  EXPECT_THAT(load(BoxAnswer::kNo, false, kModel, false),
+              FieldsAre(0, 0, "Could not load model .\\gfx\\a.bmp\r\n"));
+  EXPECT_THAT(load(BoxAnswer::kNo, true, kModel, false), FieldsAre(0, 0, "")) << "after the start";
 }
 
 TEST(PictureLoader, CountsModelPicturesAndMovesTheBar) {

@@ -14,10 +14,7 @@ using enum ModelPiece;
 TEST(SnakePieces, FollowDirectionsTurnsAndTheModelsFlags) {
   struct Case {
     const char* dir;
-    SnakePiece head;
-    SnakePiece body;
-    SnakePiece inverse;
-    SnakePiece tail;
+    SnakePiece head, body, inverse, tail;
   };
   const Case cases[] = {
       {"", {}, {}, {}, {}},

