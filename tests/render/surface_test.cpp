@@ -122,7 +122,7 @@ TEST(Flip, SwapsTheBuffersAndShowsTheTexts) {
 
   canvas.FlipBuffers();
 
-  EXPECT_EQ(canvas.Primary().Pixels()[0], 0x010203U);
+  EXPECT_EQ(std::as_const(canvas).Primary().Pixels()[0], 0x010203U);
   EXPECT_EQ(canvas.Back().Pixels()[0], 0U);
   ASSERT_EQ(witness.shown.size(), 1U);
   EXPECT_EQ(witness.shown[0].Text, "now");
