@@ -154,6 +154,7 @@ TEST_F(PlayFieldTest, UserItemsShowStillAndMovingWallsByTheirType) {
   state.UserItems(3) = {60, 20, true, "crate.bmp", "ani"};
   state.UserItems(4) = {80, 20, false, "crate.bmp", "wall"};
   state.UserItems(5) = {100, 20, true, "smoke", "ani_wall"};
+  state.UserItems(6) = {120, 20, true, "fan", "ani"};
 
   field.DrawUserItems();
 
