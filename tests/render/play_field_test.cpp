@@ -158,7 +158,8 @@ TEST_F(PlayFieldTest, UserItemsShowStillAndMovingWallsByTheirType) {
 
   field.DrawUserItems();
 
-  EXPECT_THAT(Row(25, {25, 45, 65, 85, 105}), ElementsAre(0x00AA00, 0x00BB00, kBare, kBare, kBare));
+  EXPECT_THAT(Row(25, {25, 45, 65, 85, 105, 125}),
+              ElementsAre(0x00AA00, 0x00BB00, kBare, kBare, kBare, kBare));
 }
 
 }  // namespace
