@@ -2,14 +2,12 @@
 
 #include <set>
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include "support/fake_files.h"
 
 namespace coilrun {
 namespace {
-
-constexpr const char* kNames = ".\\AI_Names.lst";
 
 TEST(SetupAiSnakes, PreparesTheSnakesInPlay) {
   State state;
@@ -36,42 +34,30 @@ TEST(SetupAiSnakes, PreparesTheSnakesInPlay) {
 }
 
 TEST(SetupAiSnakes, GivesEachSnakeANameOfItsOwnWhileThereAreAny) {
-  State state;
-  FakeFiles files;
-  files.Put(kNames, "Ann\r\n\r\nBob\r\n   \r\nAnn\r\n");
-  state.mode.NumSnakes = 4;
-  for (int run = 0; run < 20; ++run) {
-    ASSERT_TRUE(SetupAiSnakes(state, files));
-    const std::set<std::string> names = {state.Snakes(2).Name, state.Snakes(3).Name};
-    EXPECT_EQ(names, (std::set<std::string>{"<bot> Ann", "<bot> Bob"}));
-    EXPECT_EQ(state.Snakes(4).Name, "AI_Snake 3");
+  struct Row {
+    std::string file;
+    int snakes;
+    bool done;
+    std::set<std::string> names;
+  };
+  const std::string blank(98, '\n');
+  for (const auto& [file, snakes, done, names] : std::vector<Row>{
+           {"Ann\r\n\r\nBob\r\n   \r\nAnn\r\n", 4, true, {"<bot> Ann", "<bot> Bob", "AI_Snake 3"}},
+           {blank + "Last\nTooLate\n", 3, true, {"<bot> Last", "AI_Snake 2"}},
+           {"\r\n\r\n", 200, true, {"AI_Snake 15"}},
+           {"", 2, false, {}},
+           {"", 1, true, {}}}) {
+    State state;
+    FakeFiles files;
+    files.Put(".\\AI_Names.lst", file);
+    state.mode.NumSnakes = snakes;
+    for (int run = 0; run < 20; ++run) {
+      EXPECT_EQ(SetupAiSnakes(state, files), done) << file << snakes;
+      std::set<std::string> seen;
+      for (const SnakeRec& snake : state.Snakes) seen.insert(snake.Name);
+      EXPECT_THAT(seen, testing::IsSupersetOf(names)) << file;
+    }
   }
-}
-
-TEST(SetupAiSnakes, DrawsFromTheFirst99Lines) {
-  State state;
-  FakeFiles files;
-  std::string text;
-  for (int line = 1; line <= 98; ++line) text += "\n";
-  files.Put(kNames, text + "Last\nTooLate\n");
-  state.mode.NumSnakes = 3;
-  EXPECT_TRUE(SetupAiSnakes(state, files));
-  EXPECT_EQ(state.Snakes(2).Name, "<bot> Last");
-  EXPECT_EQ(state.Snakes(3).Name, "AI_Snake 2");
-}
-
-TEST(SetupAiSnakes, FailsOnAnEmptyFileOnlyWhenNamesAreWanted) {
-  State state;
-  FakeFiles files;
-  files.Put(kNames, "");
-  state.mode.NumSnakes = 2;
-  EXPECT_FALSE(SetupAiSnakes(state, files));
-  state.mode.NumSnakes = 1;
-  EXPECT_TRUE(SetupAiSnakes(state, files));
-  files.Put(kNames, "\r\n\r\n");
-  state.mode.NumSnakes = 200;
-  EXPECT_TRUE(SetupAiSnakes(state, files));
-  EXPECT_EQ(state.Snakes(16).Name, "AI_Snake 15");
 }
 
 TEST(ChooseAiModel, DrawsWhenAllModelsAreHeld) {

@@ -58,11 +58,6 @@ TEST_F(ArchivesTest, DoesNothingWithoutAnArchive) {
   EXPECT_FALSE(state.feed.introVisible);
 }
 
-TEST_F(ArchivesTest, AsksForNoPasswordWhenThereIsNone) {
-  SnUnextractFile(stage.context, kArchive, ".\\", "");
-  EXPECT_TRUE(stage.archive.passwords.empty());
-}
-
 TEST_F(ArchivesTest, NeitherListsNorCountsWhatItCannotUnpack) {
   stage.archive.archives[kArchive] = {
       {"good.bmp", "1"}, {"bad.bmp", "", true}, {std::string("cut.bmp\0tail", 12), "2"}};

@@ -1,6 +1,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <map>
 
 #include <gtest/gtest.h>
 
@@ -12,11 +13,13 @@
 namespace coilrun {
 namespace {
 
-std::vector<Bytes> FilesIn(const std::string& folder) {
-  std::vector<Bytes> files;
+/// The files of a folder by their names.
+std::map<std::string, Bytes> FilesIn(const std::string& folder) {
+  std::map<std::string, Bytes> files;
   for (const auto& entry : std::filesystem::directory_iterator(COILRUN_SOURCE_DIR + folder)) {
     std::ifstream file(entry.path(), std::ios::binary);
-    files.emplace_back(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());
+    files[entry.path().filename().string()] =
+        Bytes(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());
   }
   return files;
 }
@@ -24,22 +27,22 @@ std::vector<Bytes> FilesIn(const std::string& folder) {
 TEST(Corpus, OfLevelsEndsInALevelOrInTheMenus) {
   const auto files = FilesIn("/fuzz/corpus/level");
   EXPECT_GE(files.size(), 5U);
-  for (const Bytes& bytes : files) {
+  for (const auto& [name, bytes] : files) {
     ContentStage stage;
     stage.files.contents[".\\lvl\\x.dat"] = bytes;
     LoadLevel(stage.context, ".\\lvl\\x.dat");
-    EXPECT_NE(stage.state.shell.ShowLevelScreen, stage.state.shell.NoGameRunning);
-    EXPECT_GE(stage.state.mode.NumSnakes, 1);
+    EXPECT_NE(stage.state.shell.ShowLevelScreen, stage.state.shell.NoGameRunning) << name;
+    EXPECT_GE(stage.state.mode.NumSnakes, 1) << name;
   }
 }
 
 TEST(Corpus, OfDescriptionsIsReadWithoutLineEnds) {
   const auto files = FilesIn("/fuzz/corpus/model_ini");
   EXPECT_GE(files.size(), 2U);
-  for (const Bytes& bytes : files) {
+  for (const auto& [name, bytes] : files) {
     ModelPack pack;
     ReadModelIni(TextOf(bytes), pack);
-    EXPECT_EQ((pack.Name + pack.Author).find('\n'), std::string::npos);
+    EXPECT_EQ((pack.Name + pack.Author).find('\n'), std::string::npos) << name;
   }
 }
 
@@ -47,17 +50,15 @@ TEST(Corpus, OfDescriptionsIsReadWithoutLineEnds) {
 TEST(ShippedLevels, LoadAndLeadToTheEnd) {
   ContentStage stage;
   State& state = stage.state;
-  for (const char* picture : {"ui_crate.bmp", "ui_steel.bmp", "ui_flame", "ui_wheel"}) {
-    const std::string name = picture;
+  for (const std::string name : {"ui_crate.bmp", "ui_steel.bmp", "ui_flame", "ui_wheel"}) {
     stage.files.Put(".\\gfx\\" + name, "");
     stage.host.pictures.insert(name);
-    for (int i = 1; i <= 45; ++i)
+    for (int i = 1; i <= 45; ++i) {
       stage.host.pictures.insert(name + "\\" + std::to_string(i) + ".bmp");
+    }
   }
-  for (const auto& entry : std::filesystem::directory_iterator(COILRUN_SOURCE_DIR "/assets/lvl")) {
-    std::ifstream file(entry.path(), std::ios::binary);
-    stage.files.contents[".\\lvl\\" + entry.path().filename().string()] =
-        Bytes(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());
+  for (const auto& [name, bytes] : FilesIn("/assets/lvl")) {
+    stage.files.contents[".\\lvl\\" + name] = bytes;
   }
   int levels = 0;
   for (std::string path = ".\\lvl\\lvl1.dat"; !path.ends_with("END"); path = state.level.nextLvl) {

@@ -1,5 +1,6 @@
 #include "content/load_level.h"
 
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -26,6 +27,18 @@ class LoadLevelTest : public testing::Test {
     stage.files.Put(kPath, text);
     LoadLevel(stage.context, kPath);
   }
+  /// The level's own words and numbers, as text.
+  std::string Properties() const {
+    const LevelState& level = state.level;
+    std::ostringstream text;
+    text << level.lvlName << ", then " << level.nextLvl << "; music " << level.MusicFile << "; "
+         << level.Timeout << " s; needs " << level.reqYellow << " yellow, " << level.reqRed
+         << " red, " << level.reqScore << " points; blue " << level.blueRate << "; speed to "
+         << state.settings.MaxSpeed << ", rising " << state.settings.IncSpeed << "; open "
+         << level.hasOpenWalls << ", red " << level.UsesRed << ", power " << level.UsesPower
+         << "; starts " << level.MapSnakeCount;
+    return text.str();
+  }
   bool Failed() const {
     return state.shell.NoGameRunning && state.shell.InMenu && state.shell.Running &&
            !state.shell.LevelIntroPending && !state.shell.ShowLevelScreen &&
@@ -46,27 +59,17 @@ TEST_F(LoadLevelTest, PutsMapAndKeysIntoTheState) {
       "numPower=1\r\nhasOpenWalls=True\r\nreqYellow=5\r\nreqScore=70\r\nblueRate=7.5\r\n"
       "BkgPic= b.bmp\r\nMusicFile=  m.ogg\r\nincrease=1\r\nmaxSpd=12.5\r\ngSpeed=80");
   EXPECT_TRUE(Loaded());
+  EXPECT_EQ(Properties(),
+            "Yard, then .\\lvl\\lvl2.dat; music .\\music\\m.ogg; 90 s; needs 5 yellow, 0 red, 70 "
+            "points; blue 7.5; speed to 12.5, rising 1; open 1, red 0, power 1; starts 1");
   EXPECT_EQ(state.numWalls, 1);
   EXPECT_EQ(state.Walls(1).At(), (Point{20, 20}));
   EXPECT_EQ(state.Snakes(1).StartX, 30);
   EXPECT_EQ(state.Snakes(1).StartY, 10);
-  EXPECT_EQ(state.level.MapSnakeCount, 1);
   EXPECT_EQ(state.numSpawnPoints, 1);
   EXPECT_EQ(state.numUserItems, 1);
   EXPECT_EQ(state.UserItems(1).Name, "A");
   EXPECT_FALSE(state.UserItems(1).Present);
-  EXPECT_EQ(state.level.lvlName, "Yard");
-  EXPECT_EQ(state.level.nextLvl, ".\\lvl\\lvl2.dat");
-  EXPECT_EQ(state.level.Timeout, 90);
-  EXPECT_EQ(state.level.reqYellow, 5);
-  EXPECT_EQ(state.level.reqScore, 70);
-  EXPECT_EQ(state.level.blueRate, 7.5);
-  EXPECT_EQ(state.level.MusicFile, ".\\music\\m.ogg");
-  EXPECT_TRUE(state.level.hasOpenWalls);
-  EXPECT_TRUE(state.level.UsesPower);
-  EXPECT_FALSE(state.level.UsesRed);
-  EXPECT_TRUE(state.settings.IncSpeed);
-  EXPECT_EQ(state.settings.MaxSpeed, 12.5);
   EXPECT_EQ(state.Snakes(1).BaseInterval, 80);
   EXPECT_EQ(state.Snakes(1).Interval, 100);
   EXPECT_TRUE(state.Items(ItemKind::kYellow)(2).Present);
@@ -91,12 +94,10 @@ TEST_F(LoadLevelTest, KeepsAndResetsWhatTheLevelBeforeLeft) {
   Load("S .\n");
 
   EXPECT_TRUE(Loaded());
-  EXPECT_EQ(state.level.nextLvl, ".\\lvl\\lvl9.dat");
-  EXPECT_EQ(state.level.lvlName, "One");
-  EXPECT_EQ(state.level.reqRed, 0);
-  EXPECT_FALSE(state.level.hasOpenWalls);
-  EXPECT_FALSE(state.Walls(1).Present);
-  EXPECT_FALSE(state.SpawnPoints(1).Present);
+  EXPECT_EQ(Properties(),
+            "One, then .\\lvl\\lvl9.dat; music ; 0 s; needs 0 yellow, 0 red, 0 points; blue 40; "
+            "speed to 30, rising 0; open 0, red 0, power 0; starts 1");
+  EXPECT_FALSE(state.Walls(1).Present || state.SpawnPoints(1).Present);
   EXPECT_FALSE(state.Items(ItemKind::kPower)(1).Present);
   EXPECT_TRUE(state.Items(ItemKind::kRed)(5).Present);
   EXPECT_EQ(player.TotalScore, 500);
@@ -109,7 +110,6 @@ TEST_F(LoadLevelTest, KeepsAndResetsWhatTheLevelBeforeLeft) {
   EXPECT_EQ(player.StartX, 10);
   EXPECT_EQ(state.level.ElapsedSecs, 0);
   EXPECT_FALSE(state.shell.lvlTime);
-  EXPECT_EQ(state.settings.MaxSpeed, 30);
 }
 
 TEST_F(LoadLevelTest, EndsEveryFaultInTheMenus) {
@@ -136,8 +136,10 @@ TEST_F(LoadLevelTest, EndsEveryFaultInTheMenus) {
     EXPECT_LE(state.mode.NumSnakes, kMaxSnakes);
   }
   stage.files.Delete(kPath);
+  state.shell.DebugMode = true;
   LoadLevel(stage.context, kPath);
   EXPECT_TRUE(Failed());
+  EXPECT_EQ(state.feed.Console(5), state.menus.StatusText + "\r\n");
 }
 
 TEST_F(LoadLevelTest, TakesTablesThatAreJustFull) {
@@ -147,12 +149,6 @@ TEST_F(LoadLevelTest, TakesTablesThatAreJustFull) {
   EXPECT_EQ(state.numWalls, kMaxWalls);
 }
 
-TEST_F(LoadLevelTest, TellsTheFaultInDebugMode) {
-  state.shell.DebugMode = true;
-  LoadLevel(stage.context, kPath);
-  EXPECT_EQ(state.feed.Console(5), state.menus.StatusText + "\r\n");
-}
-
 TEST_F(LoadLevelTest, LeavesItemsAbsentOnAFullField) {
   Load(Repeated(22, Repeated(30, "| ") + ".\n") + "numYellow=2\nnumRed=1\n");
   EXPECT_TRUE(Loaded());
@@ -160,33 +156,29 @@ TEST_F(LoadLevelTest, LeavesItemsAbsentOnAFullField) {
   EXPECT_EQ(state.Items(ItemKind::kRed)(1).At(), kParked);
 }
 
-struct SnakeCase {
-  std::string text;
-  int switchCount;  ///< "/AIS=" of the command line, -1 without
-  int snakes;
-};
-
 TEST_F(LoadLevelTest, CountsSnakesByKeySwitchAndMap) {
-  const std::vector<SnakeCase> cases = {
-      {"S 1 2 3 4 5 .\nAIS=3\n", -1, 4},
-      {"S 1 .\nAIS=3\n", -1, 2},
-      {"1 2 S .\nAIS=3\n", -1, 1},
-      {"S 1 2 3 4 5 .\n", 3, 4},
-      {"S 1 .\n", 3, 2},
-      {"S 1 2 3 4 5 .\n", 1000000, 6},
-      {"S 1 2 .\nAIS=0\n", -1, 1},
-      {"S 1 2 .\nAIS=-7\n", -1, 1},
-      {"S 1 2 .\nAIS=1.5\n", -1, 2},
+  struct Row {
+    std::string text;
+    int switchCount;  ///< "/AIS=" of the command line, -1 without
+    int snakes;
   };
-  for (const SnakeCase& each : cases) {
+  for (const auto& [text, switchCount, snakes] : std::vector<Row>{{"S 1 2 3 4 5 .\nAIS=3\n", -1, 4},
+                                                                  {"S 1 .\nAIS=3\n", -1, 2},
+                                                                  {"1 2 S .\nAIS=3\n", -1, 1},
+                                                                  {"S 1 2 3 4 5 .\n", 3, 4},
+                                                                  {"S 1 .\n", 3, 2},
+                                                                  {"S 1 2 3 4 5 .\n", 1000000, 6},
+                                                                  {"S 1 2 .\nAIS=0\n", -1, 1},
+                                                                  {"S 1 2 .\nAIS=-7\n", -1, 1},
+                                                                  {"S 1 2 .\nAIS=1.5\n", -1, 2}}) {
     state.mode = {};
-    state.mode.AiSwitchGiven = state.mode.AiEnabled = each.switchCount >= 0;
-    state.mode.AiCount = each.switchCount;
-    Load(each.text);
-    EXPECT_TRUE(Loaded());
-    EXPECT_EQ(state.mode.NumSnakes, each.snakes) << each.text << each.switchCount;
-    EXPECT_EQ(state.timers.iWait(1).Enabled, each.snakes > 1) << each.text;
+    state.mode.AiSwitchGiven = state.mode.AiEnabled = switchCount >= 0;
+    state.mode.AiCount = switchCount;
     state.timers.iWait(1).Enabled = false;
+    Load(text);
+    EXPECT_TRUE(Loaded());
+    EXPECT_EQ(state.mode.NumSnakes, snakes) << text << switchCount;
+    EXPECT_EQ(state.timers.iWait(1).Enabled, snakes > 1) << text;
   }
 }
 
@@ -199,15 +191,18 @@ TEST_F(LoadLevelTest, KeepsThePlayerOnAMapWithoutStarts) {
 }
 
 TEST_F(LoadLevelTest, SetsTheMatchLimitOnlyWhenItHasNone) {
-  state.mode.MatchLimit = 1;
-  Load("S .");
-  EXPECT_EQ(state.mode.MatchLimit, 120);
-  state.mode.MatchLimit = 0;
-  state.mode.HuntingMode = true;
-  Load("S .");
-  EXPECT_EQ(state.mode.MatchLimit, 30);
-  Load("S .");
-  EXPECT_EQ(state.mode.MatchLimit, 30);
+  struct Row {
+    int before;
+    bool hunting;
+    int after;
+  };
+  for (const auto& [before, hunting, after] :
+       std::vector<Row>{{1, false, 120}, {0, true, 30}, {30, false, 30}}) {
+    state.mode.MatchLimit = before;
+    state.mode.HuntingMode = hunting;
+    Load("S .");
+    EXPECT_EQ(state.mode.MatchLimit, after);
+  }
 }
 
 TEST_F(LoadLevelTest, UnpacksRequiredArchivesByTheirEnding) {

@@ -1,5 +1,6 @@
 #include "content/placement.h"
 
+#include <functional>
 #include <set>
 #include <string>
 #include <vector>
@@ -9,10 +10,11 @@
 namespace coilrun {
 namespace {
 
+/// Spawn points by their states; one that is "gone" is not present.
 void AddSpawnPoints(State& state, const std::vector<std::string>& states) {
   for (const std::string& text : states) {
     const int number = ++state.numSpawnPoints;
-    state.SpawnPoints(number) = {100 * number, 50, true, text};
+    state.SpawnPoints(number) = {100 * number, 50, text != "gone", text};
   }
 }
 
@@ -45,58 +47,45 @@ TEST(PlaceItem, SpreadsTheFirstItemsOverAllSpawnPoints) {
   EXPECT_EQ(used, (std::set<int>{1, 2, 3}));
 }
 
-struct ScanCase {
-  std::vector<std::string> before;
-  int placedOn;
-  std::vector<std::string> after;
-};
-
 TEST(PlaceItem, TakesTheFirstFreePointDuringPlayAndPassesNewOnesOnce) {
-  const std::vector<ScanCase> cases = {
-      {{"", ""}, 1, {"7", ""}},
-      {{"1", "", "3"}, 2, {"1", "7", "3"}},
-      {{"1", "new", "3"}, -1, {"1", "", "3"}},
-      {{"new", "", "new"}, 2, {"", "7", "new"}},
-      {{"0", "1"}, 1, {"7", "1"}},
+  struct Row {
+    std::vector<std::string> before;
+    int placedOn;
+    std::vector<std::string> after;
   };
-  for (const ScanCase& each : cases) {
+  for (const auto& [before, placedOn, after] :
+       std::vector<Row>{{{"", ""}, 1, {"7", ""}},
+                        {{"1", "", "3"}, 2, {"1", "7", "3"}},
+                        {{"1", "new", "3"}, -1, {"1", "", "3"}},
+                        {{"new", "", "new"}, 2, {"", "7", "new"}},
+                        {{"0", "1"}, 1, {"7", "1"}},
+                        {{"gone", ""}, 2, {"gone", "7"}}}) {
     State state;
-    AddSpawnPoints(state, each.before);
+    AddSpawnPoints(state, before);
     EXPECT_TRUE(PlaceItem(state, ItemKind::kBlack, 7, false));
-    EXPECT_EQ(state.Items(ItemKind::kBlack)(7).SpawnPoint, each.placedOn);
-    for (std::size_t i = 0; i < each.after.size(); ++i) {
-      EXPECT_EQ(state.SpawnPoints(static_cast<int>(i) + 1).State, each.after[i]);
+    EXPECT_EQ(state.Items(ItemKind::kBlack)(7).SpawnPoint, placedOn);
+    for (std::size_t i = 0; i < after.size(); ++i) {
+      EXPECT_EQ(state.SpawnPoints(static_cast<int>(i) + 1).State, after[i]);
     }
   }
-}
-
-TEST(PlaceItem, PassesPointsThatAreNotPresent) {
-  State state;
-  AddSpawnPoints(state, {"", ""});
-  state.SpawnPoints(1).Present = false;
-  PlaceItem(state, ItemKind::kRed, 1, false);
-  EXPECT_EQ(state.Items(ItemKind::kRed)(1).SpawnPoint, 2);
 }
 
 TEST(PlaceItem, DrawsFreeSpotsInsideTheField) {
   State state;
   ItemRec& item = state.Items(ItemKind::kTnt)(1);
-  int lowestX = 1000;
-  int highestX = 0;
-  int lowestY = 1000;
-  int highestY = 0;
+  std::set<int> columns;
+  std::set<int> rows;
   for (int i = 0; i < 5000; ++i) {
     ASSERT_TRUE(PlaceItem(state, ItemKind::kTnt, 1, false));
-    EXPECT_EQ(item.X % 10 + item.Y % 10, 0);
-    lowestX = std::min<int>(lowestX, item.X);
-    highestX = std::max<int>(highestX, item.X);
-    lowestY = std::min<int>(lowestY, item.Y);
-    highestY = std::max<int>(highestY, item.Y);
+    columns.insert(item.X);
+    rows.insert(item.Y);
   }
-  EXPECT_EQ(lowestX, 20);
-  EXPECT_EQ(highestX, 610);
-  EXPECT_EQ(lowestY, 20);
-  EXPECT_EQ(highestY, 440);
+  EXPECT_EQ(*columns.begin(), 20);
+  EXPECT_EQ(*columns.rbegin(), 610);
+  EXPECT_EQ(columns.size(), 60U);
+  EXPECT_EQ(*rows.begin(), 20);
+  EXPECT_EQ(*rows.rbegin(), 440);
+  EXPECT_EQ(rows.size(), 43U);
   EXPECT_FALSE(item.Present);
 }
 
@@ -122,46 +111,52 @@ TEST(PlaceItem, RefusesSlotsThatDoNotExist) {
   EXPECT_THROW(PlaceItem(state, ItemKind::kRed, 301, true), std::out_of_range);
 }
 
-struct KeepOutCase {
-  std::string thing;
-  int distance;
-};
-
-void PutThing(State& state, const std::string& thing) {
-  constexpr Point kAt{100, 100};
-  const std::vector<std::string> kinds = {"yellow", "red", "blue", "black", "TNT", "power"};
-  for (std::size_t i = 0; i < kinds.size(); ++i) {
-    if (thing != kinds[i]) continue;
-    state.itemLists[i].count = 1;
-    state.itemLists[i](1) = {kAt.x, kAt.y, true, -1, false};
-  }
-  if (thing == "wall") state.Walls(681) = {kAt.x, kAt.y, true, WallKind::kS};
-  if (thing == "user item") {
-    state.numUserItems = 1;
-    state.UserItems(1) = {kAt.x, kAt.y, true, "x.bmp", "wall"};
-  }
-  SnakeRec& player = state.Snakes(1);
-  if (thing == "body") {
-    player.Length = 3;
-    player.Seg(3) = {kAt.x, kAt.y, Dir::kLeft};
-  }
-  if (thing == "head") player.X = player.Y = kAt.x;
-  if (thing == "neck") {
-    player.Seg(0) = player.Seg(1) = {kAt.x, kAt.y, Dir::kLeft};
-  }
-  if (thing == "rival") {
-    state.Snakes(2).Length = 5;
-    state.Snakes(2).Seg(4) = {kAt.x, kAt.y, Dir::kLeft};
-  }
-}
-
 TEST(IsSpotTaken, KeepsADistanceFromEachKindOfThing) {
-  const std::vector<KeepOutCase> cases = {
-      {"yellow", 16}, {"red", 14},  {"blue", 16},      {"black", 14}, {"TNT", 14},  {"power", 14},
-      {"wall", 14},   {"body", 10}, {"user item", 16}, {"head", -1},  {"neck", -1}, {"rival", -1}};
-  for (const auto& [thing, distance] : cases) {
+  using Put = std::function<void(State&)>;
+  const auto item = [](ItemKind kind, bool present = true) -> Put {
+    return [=](State& state) {
+      state.Items(kind).count = 1;
+      state.Items(kind)(1) = {100, 100, present, -1, false};
+    };
+  };
+  const auto wall = [](bool present) -> Put {
+    return [=](State& state) { state.Walls(681) = {100, 100, present, WallKind::kS}; };
+  };
+  const auto userItem = [](bool present) -> Put {
+    return [=](State& state) {
+      state.numUserItems = 1;
+      state.UserItems(1) = {100, 100, present, "x.bmp", "wall"};
+    };
+  };
+  const auto cell = [](int snake, int number) -> Put {
+    return [=](State& state) {
+      state.Snakes(snake).Length = 3;
+      state.Snakes(snake).Seg(number) = {100, 100, Dir::kLeft};
+    };
+  };
+  struct Row {
+    const char* thing;
+    int distance;
+    Put put;
+  };
+  for (const auto& [thing, distance, put] :
+       std::vector<Row>{{"yellow", 16, item(ItemKind::kYellow)},
+                        {"red", 14, item(ItemKind::kRed)},
+                        {"blue", 16, item(ItemKind::kBlue)},
+                        {"black", 14, item(ItemKind::kBlack)},
+                        {"TNT", 14, item(ItemKind::kTnt)},
+                        {"power", 14, item(ItemKind::kPower)},
+                        {"hidden item", -1, item(ItemKind::kRed, false)},
+                        {"wall", 14, wall(true)},
+                        {"blown wall", -1, wall(false)},
+                        {"user item", 16, userItem(true)},
+                        {"blown user item", -1, userItem(false)},
+                        {"neck", -1, cell(1, 0)},
+                        {"first cell", -1, cell(1, 1)},
+                        {"body", 10, cell(1, 3)},
+                        {"rival", -1, cell(2, 3)}}) {
     State state;
-    PutThing(state, thing);
+    put(state);
     for (int d = 0; d <= 20; ++d) {
       EXPECT_EQ(IsSpotTaken(state, {100 + d, 100 - d}), d <= distance) << thing << " at " << d;
       EXPECT_EQ(IsSpotTaken(state, {100 - d, 100}), d <= distance) << thing << " at " << d;

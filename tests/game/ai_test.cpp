@@ -9,8 +9,7 @@ struct Row {
   const char* what;
   Point head;
   Dir dir;
-  std::vector<Point> yellow;
-  std::vector<Point> walls;
+  std::vector<Point> yellow, walls;
   Dir choice;
 };
 
@@ -60,43 +59,29 @@ TEST(AIChoose, ByTargetEdgeObstacleAndReversal) {
 }
 
 TEST(AIChoose, SeesOtherSnakesButNotItselfNorTheLaterWalls) {
-  struct Case {
-    std::function<void(Field&)> set;
-    Dir choice;
+  Field field;
+  SnakeRec& rival = field.Put(1, {500, 400});
+  SnakeRec& own = field.Put(2, {300, 200}, Dir::kLeft);
+  rival.Length = own.Length = field.Snake(3).Length = 3;
+  field.Item(ItemKind::kBlue, {100, 200});
+  field.Item(ItemKind::kTnt, {300, 220});
+  const auto choiceBefore = [&field](auto& thing) {
+    const auto away = thing;
+    thing.X = 280;
+    thing.Y = 200;
+    const Dir choice = AIChoose(field.state, 2);
+    thing = away;
+    return choice;
   };
-  const auto seg = [](int snake, int i) {
-    return [=](Field& field) {
-      field.Snake(snake).Length = 3;
-      field.Snake(snake).Seg(i) = {280, 200, Dir::kNone};
-    };
-  };
-  const auto wall = [](int slot) {
-    return [=](Field& field) { field.state.Walls(slot) = {280, 200, false, WallKind::kS}; };
-  };
-  for (const auto& [set, choice] :
-       std::vector<Case>{{seg(1, 0), Dir::kForw},
-                         {seg(1, 3), Dir::kForw},
-                         {seg(1, 4), Dir::kLeft},
-                         {seg(2, 1), Dir::kLeft},
-                         {seg(3, 1), Dir::kLeft},
-                         {[](Field& field) {
-                            field.Put(1, {280, 200});
-                          },
-                          Dir::kForw},
-                         {[](Field& field) {
-                            field.Player().Tail = {280, 200, Dir::kNone};
-                          },
-                          Dir::kForw},
-                         {wall(200), Dir::kForw},
-                         {wall(201), Dir::kLeft}}) {
-    Field field;
-    field.Put(1, {500, 400});
-    field.Put(2, {300, 200}, Dir::kLeft);
-    field.Item(ItemKind::kBlue, {100, 200});
-    field.Item(ItemKind::kTnt, {300, 220});
-    set(field);
-    EXPECT_EQ(AIChoose(field.state, 2), choice);
-  }
+  EXPECT_EQ(choiceBefore(rival), Dir::kForw);
+  EXPECT_EQ(choiceBefore(rival.Tail), Dir::kForw);
+  EXPECT_EQ(choiceBefore(rival.Seg(0)), Dir::kForw);
+  EXPECT_EQ(choiceBefore(rival.Seg(3)), Dir::kForw);
+  EXPECT_EQ(choiceBefore(rival.Seg(4)), Dir::kLeft) << "behind the tail";
+  EXPECT_EQ(choiceBefore(own.Seg(1)), Dir::kLeft);
+  EXPECT_EQ(choiceBefore(field.Snake(3).Seg(1)), Dir::kLeft) << "not in play";
+  EXPECT_EQ(choiceBefore(field.state.Walls(200)), Dir::kForw);
+  EXPECT_EQ(choiceBefore(field.state.Walls(201)), Dir::kLeft);
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <initializer_list>
+#include <map>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -121,17 +122,55 @@ struct Field {
   void Draws(const std::function<bool(Rnd)>& wanted) {
     for (std::uint64_t seed = 0; !wanted(state.Rnd); ++seed) state.Rnd.Reseed(seed);
   }
-  /// What a snake has, in one line: place, length and growth, points, eaten items by kind, charges.
-  std::string Has(int number) {
-    const SnakeRec& snake = Snake(number);
-    std::ostringstream text;
-    text << snake.X << ',' << snake.Y << ' ' << Word(snake.Dir) << " length " << snake.Length << '+'
-         << snake.Grow << " score " << snake.Score << " lives " << snake.Lives << " frags "
-         << snake.Frags << " ate " << snake.YellowEaten << snake.RedEaten << snake.BlueEaten
-         << snake.BlackEaten << snake.PowerEaten << " tnt " << snake.TNT << " safe "
-         << snake.ImmortalSecs;
-    return text.str();
+  /// Plays a rule and tells in one line what it changed: facts that have another value now, then
+  /// what it asked the host for and what it wrote into the feed.
+  std::string After(const std::function<void(Game&)>& rule) {
+    const auto before = Facts();
+    host.calls.clear();
+    state.feed.MsgLines = {};
+    rule(game);
+    std::ostringstream told;
+    for (const auto& [name, value] : Facts()) {
+      if (before.at(name) != value) told << name << '=' << value << ' ';
+    }
+    for (const std::string& call : host.calls) told << '[' << call << "] ";
+    for (const std::string& line : Feed()) told << '"' << line << "\" ";
+    const std::string text = told.str();
+    return text.substr(0, text.find_last_not_of(' ') + 1);
   }
+  /// What rules may change, by name; "1.TNT" is the player's.
+  std::map<std::string, std::string> Facts() {
+    std::stringstream text;
+    for (int s = 1; s <= kMaxSnakes; ++s) {
+      const SnakeRec& snake = Snake(s);
+      const std::string of = ' ' + std::to_string(s) + '.';
+      text << of << "At " << snake.X << ',' << snake.Y << of << "Dir " << Name(snake.Dir) << of
+           << "NextDir " << Name(snake.NextDir) << of << "Tail " << Name(snake.Tail.Dir) << of
+           << "Length " << snake.Length << of << "Grow " << snake.Grow << of << "Lives "
+           << snake.Lives << of << "Deaths " << snake.Deaths << of << "Frags " << snake.Frags << of
+           << "Score " << snake.Score << of << "TotalScore " << snake.TotalScore << of << "TNT "
+           << snake.TNT << of << "RedEaten " << snake.RedEaten << of << "BlueEaten "
+           << snake.BlueEaten << of << "BlackEaten " << snake.BlackEaten << of << "YellowEaten "
+           << snake.YellowEaten << of << "PowerEaten " << snake.PowerEaten << of << "Immortal "
+           << snake.Immortal << of << "ImmortalSecs " << snake.ImmortalSecs << of << "Interval "
+           << snake.Interval << of << "Timer " << StepTimer(state, s).Interval;
+    }
+    const ShellState& shell = state.shell;
+    const Timer& reset = state.timers.ResetSpeed;
+    text << " ElapsedSecs " << state.level.ElapsedSecs << " SpeedGain " << state.settings.SpeedGain
+         << " PrevInterval " << state.settings.PrevInterval << " ResetSpeed "
+         << (reset.Enabled ? reset.Interval : 0) << " Walls " << StandingWalls() << " ScorePage "
+         << state.menus.ScorePage << " Running " << shell.Running << " InMenu " << shell.InMenu
+         << " NoGameRunning " << shell.NoGameRunning << " LevelIntroPending "
+         << shell.LevelIntroPending << " ShowLevelScreen " << shell.ShowLevelScreen << " lvlTime "
+         << shell.lvlTime << " WaitingForStart " << shell.WaitingForStart << " WaitingForKey "
+         << shell.WaitingForKey << " WaitAborted " << shell.WaitAborted << " WaitingAfterDeath "
+         << shell.WaitingAfterDeath << " WaitingAfterTimeout " << shell.WaitingAfterTimeout;
+    std::map<std::string, std::string> facts;
+    for (std::string name, value; text >> name >> value;) facts[name] = value;
+    return facts;
+  }
+  static std::string_view Name(Dir dir) { return dir == Dir::kNone ? "none" : Word(dir); }
   std::vector<std::string> Feed() const {
     std::vector<std::string> lines;
     for (const std::string& line : state.feed.MsgLines) {

@@ -5,8 +5,6 @@
 namespace coilrun {
 namespace {
 
-using testing::ElementsAre;
-
 TEST(LevelComplete, SinglePlayAsksForAllFiveAtOnce) {
   Field field;
   LevelState& level = field.state.level;
@@ -16,14 +14,17 @@ TEST(LevelComplete, SinglePlayAsksForAllFiveAtOnce) {
   player.YellowEaten = player.RedEaten = player.BlueEaten = player.BlackEaten = 2;
   player.Score = 50;
   EXPECT_TRUE(LevelComplete(field.state, 5)) << "whoever asks";
-  for (Int16* eaten :
-       {&player.YellowEaten, &player.RedEaten, &player.BlueEaten, &player.BlackEaten}) {
-    --*eaten;
-    EXPECT_FALSE(LevelComplete(field.state, 1));
-    ++*eaten;
-  }
-  player.Score = 49;
-  EXPECT_FALSE(LevelComplete(field.state, 1));
+  const auto lacksOne = [&field](auto& count) {
+    --count;
+    const bool complete = LevelComplete(field.state, 1);
+    ++count;
+    return !complete;
+  };
+  EXPECT_TRUE(lacksOne(player.YellowEaten));
+  EXPECT_TRUE(lacksOne(player.RedEaten));
+  EXPECT_TRUE(lacksOne(player.BlueEaten));
+  EXPECT_TRUE(lacksOne(player.BlackEaten));
+  EXPECT_TRUE(lacksOne(player.Score));
 }
 
 TEST(LevelComplete, MatchesCountFragsOrLength) {
@@ -32,15 +33,15 @@ TEST(LevelComplete, MatchesCountFragsOrLength) {
   field.state.mode.MatchLimit = 5;
   field.Snake(3).Frags = 5;
   field.Snake(4).Length = 5;
-  EXPECT_TRUE(LevelComplete(field.state, 3));
-  EXPECT_FALSE(LevelComplete(field.state, 4));
-  field.state.mode.HuntingMode = true;
-  EXPECT_FALSE(LevelComplete(field.state, 3));
-  EXPECT_TRUE(LevelComplete(field.state, 4));
+  for (const bool hunting : {false, true}) {
+    field.state.mode.HuntingMode = hunting;
+    EXPECT_EQ(LevelComplete(field.state, 3), !hunting);
+    EXPECT_EQ(LevelComplete(field.state, 4), hunting);
+  }
 }
 
-/// Completes a level after 100 seconds, with 1300 points.
-void Complete(Field& field) {
+/// Completes a level after 100 seconds, with 1300 points, and tells what that changed.
+std::string Complete(Field& field) {
   field.host.onYield = [&] { EXPECT_FALSE(field.state.shell.Running); };
   field.Put(2, {300, 300}).Length = 7;
   SnakeRec& player = field.Put(1, {300, 300});
@@ -49,42 +50,41 @@ void Complete(Field& field) {
   player.Immortal = true;
   player.Lives = 1;
   field.state.level.ElapsedSecs = 100;
-  NextLevel(field.game);
-  EXPECT_TRUE(field.state.shell.Running);
-  EXPECT_EQ(player.Score, 0);
-  EXPECT_FALSE(player.Immortal);
-  EXPECT_EQ(field.state.level.ElapsedSecs, 0);
-  EXPECT_EQ(field.Snake(2).Length, 1);
+  return field.After(NextLevel);
 }
 
 TEST(NextLevel, AddsScoreAndTimeBonusAndLoadsTheNext) {
   struct Row {
     double timeout, lowest;
     std::vector<std::string> more;
-    int total;
+    std::string total;
   };
   const std::string record = " This is a new High Score!";
   for (const auto& [timeout, lowest, more, total] :
-       std::vector<Row>{{120, 1319, {"260 Time Bonus: 20 pts", "275" + record}, 1320},
-                        {120, 1320, {"260 Time Bonus: 20 pts"}, 1320},
-                        {60, 5000, {"260 Time Bonus: -40 pts"}, 1260},
-                        {0, 1000, {"260" + record}, 1300}}) {
+       std::vector<Row>{{120, 1319, {"260 Time Bonus: 20 pts", "275" + record}, "1320"},
+                        {120, 1320, {"260 Time Bonus: 20 pts"}, "1320"},
+                        {60, 5000, {"260 Time Bonus: -40 pts"}, "1260"},
+                        {0, 1000, {"260" + record}, "1300"}}) {
     Field field;
     for (HiScoreEntry& entry : field.state.HiScore) entry.Score = 9999;
     field.state.HiScore(10).Score = lowest;
     field.state.level.nextLvl = ".\\lvl\\lvl7.dat";
     field.state.level.Timeout = timeout;
-    Complete(field);
+    EXPECT_EQ(Complete(field), "1.Immortal=0 1.Score=0 1.TotalScore=" + total +
+                                   " 2.Length=1 ElapsedSecs=0 Running=1 lvlTime=1 "
+                                   "[level .\\lvl\\lvl7.dat]");
     std::vector<std::string> texts{"215 Next Level!!!", "230 -Press Enter-",
-                                   "245 Your Score: " + std::to_string(total)};
+                                   "245 Your Score: " + total};
     texts.insert(texts.end(), more.begin(), more.end());
     field.host.screen.resize(texts.size());
     EXPECT_EQ(field.host.screen, texts);
-    EXPECT_EQ(field.Player().TotalScore, total);
     EXPECT_EQ(field.state.HiScore(10).Score, lowest) << "nothing is stored yet";
-    EXPECT_THAT(field.host.calls, ElementsAre("level .\\lvl\\lvl7.dat"));
   }
 }
+
+const std::string kEnd =
+    "1.Immortal=0 1.Lives=3 1.Score=0 1.TotalScore=0 2.Dir=none 2.Length=1 2.NextDir=none "
+    "ElapsedSecs=0 InMenu=1 ";
 
 TEST(NextLevel, TheLastLevelEntersTheTableAndOpensTheMenus) {
   for (const std::string next : {".\\lvl\\END", ".\\lvl\\", ""}) {
@@ -92,75 +92,68 @@ TEST(NextLevel, TheLastLevelEntersTheTableAndOpensTheMenus) {
     for (HiScoreEntry& entry : field.state.HiScore) entry = {"Old", 2000};
     field.state.HiScore(4).Score = 1200;
     field.state.level.nextLvl = next;
-    field.state.shell.LevelIntroPending = true;
-    field.state.shell.ShowLevelScreen = true;
-    Complete(field);
-    EXPECT_THAT(field.host.calls, ElementsAre("save", "menus"));
+    // The menus take no keys while these are set.
+    field.state.shell.LevelIntroPending = field.state.shell.ShowLevelScreen = true;
+    EXPECT_EQ(Complete(field),
+              kEnd +
+                  "LevelIntroPending=0 NoGameRunning=1 Running=1 ScorePage=1 ShowLevelScreen=0 "
+                  "lvlTime=1 [save] [menus]");
     EXPECT_EQ(field.state.HiScore(4).Name, "Ann");
     EXPECT_EQ(field.state.HiScore(4).Score, 1300);
-    EXPECT_EQ(field.state.menus.ScorePage, 1);
-    EXPECT_EQ(field.Player().TotalScore, 0);
-    EXPECT_EQ(field.Player().Lives, 3);
-    EXPECT_TRUE(field.state.shell.InMenu && field.state.shell.NoGameRunning);
-    EXPECT_FALSE(field.state.shell.LevelIntroPending || field.state.shell.ShowLevelScreen)
-        << "they would keep the menus from taking keys";
   }
 }
 
 TEST(NextLevel, ACheatedGameEntersNothing) {
   Field field;
   field.state.mode.Cheated = true;
-  Complete(field);
+  EXPECT_EQ(Complete(field), kEnd + "NoGameRunning=1 Running=1 lvlTime=1 [menus]");
   EXPECT_EQ(field.host.screen.at(3), "200 " + std::string(20, '*'));
-  EXPECT_THAT(field.host.calls, ElementsAre("menus"));
-  EXPECT_EQ(field.state.menus.ScorePage, 0);
 }
 
 TEST(CheckTimeLimit, RespawnsWithoutADeath) {
   struct Row {
     double timeout;
     int elapsed;
-    bool timePass, strikes;
+    bool timePass;
+    int lives;
+    std::string told;
+    std::vector<WaitOverlay> overlays;
   };
-  for (const auto& [timeout, elapsed, timePass, strikes] :
-       std::vector<Row>{{60, 59, false, false},
-                        {60, 60, false, true},
-                        {60, 90, true, false},
-                        {0, 90, false, false}}) {
+  const std::string respawn = "1.At=100,100 1.Dir=none ";
+  for (const auto& [timeout, elapsed, timePass, lives, told, overlays] : std::vector<Row>{
+           {60, 59, false, 3, "", {}},
+           {60,
+            60,
+            false,
+            3,
+            respawn + "1.Lives=2 1.NextDir=none ElapsedSecs=0 WaitingForStart=1 lvlTime=1",
+            {WaitOverlay::kTimeLimit}},
+           {60,
+            60,
+            false,
+            0,
+            respawn + "1.Lives=3 1.NextDir=none ElapsedSecs=0 InMenu=1 NoGameRunning=1 "
+                      "WaitingForStart=1 lvlTime=1",
+            {WaitOverlay::kTimeLimit, WaitOverlay::kGameOver}},
+           {60, 90, true, 3, "", {}},
+           {0, 90, false, 3, "", {}}}) {
     Field field;
-    SnakeRec& player = field.Put(1, {300, 300});
+    field.Put(1, {300, 300}).Lives = lives;
     field.state.level.Timeout = timeout;
     field.state.level.ElapsedSecs = elapsed;
     field.state.mode.TimePass = timePass;
-    CheckTimeLimit(field.game);
-    EXPECT_EQ(field.state.shell.WaitingForStart, strikes);
-    EXPECT_EQ(player.Lives, strikes ? 2 : 3);
-    EXPECT_EQ(field.state.level.ElapsedSecs, strikes ? 0 : elapsed);
-    EXPECT_EQ(player.Deaths, 0);
-    EXPECT_THAT(field.host.calls, testing::IsEmpty());
-    EXPECT_EQ(field.host.overlays, std::vector(strikes ? 1 : 0, WaitOverlay::kTimeLimit));
-    EXPECT_FALSE(field.state.shell.WaitingAfterTimeout);
+    EXPECT_EQ(field.After(CheckTimeLimit), told);
+    EXPECT_EQ(field.host.overlays, overlays);
   }
-}
-
-TEST(CheckTimeLimit, OnTheLastLifeTheGameIsOver) {
-  Field field;
-  field.Player().Lives = 0;
-  field.state.level.Timeout = 1;
-  field.state.level.ElapsedSecs = 1;
-  CheckTimeLimit(field.game);
-  EXPECT_THAT(field.host.overlays, ElementsAre(WaitOverlay::kTimeLimit, WaitOverlay::kGameOver));
-  EXPECT_TRUE(field.state.shell.InMenu);
 }
 
 TEST(StartNewGame, ClearsCheatsAndLoadsTheFirstLevel) {
   Field field;
   ModeState& mode = field.state.mode;
   mode.GodMode = mode.NoClip = mode.Cheated = mode.TimePass = true;
-  StartNewGame(field.game);
+  EXPECT_EQ(field.After(StartNewGame), "Running=1 [level .\\lvl\\lvl1.dat]");
   EXPECT_FALSE(mode.GodMode || mode.NoClip || mode.Cheated);
   EXPECT_TRUE(mode.TimePass);
-  EXPECT_THAT(field.host.calls, ElementsAre("level .\\lvl\\lvl1.dat"));
 }
 
 }  // namespace
