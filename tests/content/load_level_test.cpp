@@ -113,20 +113,18 @@ TEST_F(LoadLevelTest, KeepsAndResetsWhatTheLevelBeforeLeft) {
 }
 
 TEST_F(LoadLevelTest, EndsEveryFaultInTheMenus) {
-  const std::vector<std::string> faults = {
-      "numRed=40000",
-      "Timeout=",
-      "increase=maybe",
-      "set:",
-      "AIS=32767",
-      "numYellow=301",
-      "numPower=301",
-      Repeated(22, Repeated(31, "| ") + ".\n"),
-      Repeated(22, Repeated(31, "a ") + ".\n"),
-      Repeated(22, Repeated(14, "* ") + ".\n"),
-      Repeated(33, "Requires=a.zip\n"),
-      std::string("| .\n\0\xFF\nnumTNT=99999", 20),
-  };
+  const std::vector<std::string> faults = {"numRed=40000",
+                                           "Timeout=",
+                                           "increase=maybe",
+                                           "set:",
+                                           "AIS=32767",
+                                           "numYellow=301",
+                                           "numPower=301",
+                                           Repeated(22, Repeated(31, "| ") + ".\n"),
+                                           Repeated(22, Repeated(31, "a ") + ".\n"),
+                                           Repeated(22, Repeated(14, "* ") + ".\n"),
+                                           Repeated(33, "Requires=a.zip\n"),
+                                           std::string("| .\n\0\xFF\nnumTNT=99999", 20)};
   for (const std::string& text : faults) {
     state.shell = {};
     state.shell.LevelIntroPending = true;
@@ -162,15 +160,16 @@ TEST_F(LoadLevelTest, CountsSnakesByKeySwitchAndMap) {
     int switchCount;  ///< "/AIS=" of the command line, -1 without
     int snakes;
   };
-  for (const auto& [text, switchCount, snakes] : std::vector<Row>{{"S 1 2 3 4 5 .\nAIS=3\n", -1, 4},
-                                                                  {"S 1 .\nAIS=3\n", -1, 2},
-                                                                  {"1 2 S .\nAIS=3\n", -1, 1},
-                                                                  {"S 1 2 3 4 5 .\n", 3, 4},
-                                                                  {"S 1 .\n", 3, 2},
-                                                                  {"S 1 2 3 4 5 .\n", 1000000, 6},
-                                                                  {"S 1 2 .\nAIS=0\n", -1, 1},
-                                                                  {"S 1 2 .\nAIS=-7\n", -1, 1},
-                                                                  {"S 1 2 .\nAIS=1.5\n", -1, 2}}) {
+  const Row rows[] = {{"S 1 2 3 4 5 .\nAIS=3\n", -1, 4},
+                      {"S 1 .\nAIS=3\n", -1, 2},
+                      {"1 2 S .\nAIS=3\n", -1, 1},
+                      {"S 1 2 3 4 5 .\n", 3, 4},
+                      {"S 1 .\n", 3, 2},
+                      {"S 1 2 3 4 5 .\n", 1000000, 6},
+                      {"S 1 2 .\nAIS=0\n", -1, 1},
+                      {"S 1 2 .\nAIS=-7\n", -1, 1},
+                      {"S 1 2 .\nAIS=1.5\n", -1, 2}};
+  for (const auto& [text, switchCount, snakes] : rows) {
     state.mode = {};
     state.mode.AiSwitchGiven = state.mode.AiEnabled = switchCount >= 0;
     state.mode.AiCount = switchCount;
@@ -196,8 +195,8 @@ TEST_F(LoadLevelTest, SetsTheMatchLimitOnlyWhenItHasNone) {
     bool hunting;
     int after;
   };
-  for (const auto& [before, hunting, after] :
-       std::vector<Row>{{1, false, 120}, {0, true, 30}, {30, false, 30}}) {
+  const Row rows[] = {{1, false, 120}, {0, true, 30}, {30, false, 30}};
+  for (const auto& [before, hunting, after] : rows) {
     state.mode.MatchLimit = before;
     state.mode.HuntingMode = hunting;
     Load("S .");

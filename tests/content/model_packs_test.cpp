@@ -11,15 +11,14 @@ namespace coilrun {
 namespace {
 
 TEST(ModelIni, ChangesOnlyWhatItsLinesSay) {
-  const std::vector<std::pair<std::string, std::string>> rows = {
-      {"", "Old by Me 100"},
-      {"NAME=Boa\r\nAUTHOR You\r\n", "Boa by You 100"},
-      {"NAME", " by Me 100"},
-      {"name=Boa\n NAME=Boa\n# x", "Old by Me 100"},
-      {"EDGES=0\nEDGES_INVERS=1\nTAIL_EDGES=1", "Old by Me 011"},
-      {"EDGES=x\nEDGES_INVERS:-1\nTAIL_EDGES", "Old by Me 010"},
-      {"TAIL_EDGES= 2\nTAIL_EDGES=0", "Old by Me 100"},
-  };
+  using Row = std::pair<const char*, const char*>;
+  const Row rows[] = {{"", "Old by Me 100"},
+                      {"NAME=Boa\r\nAUTHOR You\r\n", "Boa by You 100"},
+                      {"NAME", " by Me 100"},
+                      {"name=Boa\n NAME=Boa\n# x", "Old by Me 100"},
+                      {"EDGES=0\nEDGES_INVERS=1\nTAIL_EDGES=1", "Old by Me 011"},
+                      {"EDGES=x\nEDGES_INVERS:-1\nTAIL_EDGES", "Old by Me 010"},
+                      {"TAIL_EDGES= 2\nTAIL_EDGES=0", "Old by Me 100"}};
   for (const auto& [text, expected] : rows) {
     ModelPack pack = {"f", "d", "Old", "Me", true, false, false};
     ReadModelIni(text, pack);

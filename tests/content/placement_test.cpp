@@ -53,13 +53,13 @@ TEST(PlaceItem, TakesTheFirstFreePointDuringPlayAndPassesNewOnesOnce) {
     int placedOn;
     std::vector<std::string> after;
   };
-  for (const auto& [before, placedOn, after] :
-       std::vector<Row>{{{"", ""}, 1, {"7", ""}},
-                        {{"1", "", "3"}, 2, {"1", "7", "3"}},
-                        {{"1", "new", "3"}, -1, {"1", "", "3"}},
-                        {{"new", "", "new"}, 2, {"", "7", "new"}},
-                        {{"0", "1"}, 1, {"7", "1"}},
-                        {{"gone", ""}, 2, {"gone", "7"}}}) {
+  const Row rows[] = {{{"", ""}, 1, {"7", ""}},
+                      {{"1", "", "3"}, 2, {"1", "7", "3"}},
+                      {{"1", "new", "3"}, -1, {"1", "", "3"}},
+                      {{"new", "", "new"}, 2, {"", "7", "new"}},
+                      {{"0", "1"}, 1, {"7", "1"}},
+                      {{"gone", ""}, 2, {"gone", "7"}}};
+  for (const auto& [before, placedOn, after] : rows) {
     State state;
     AddSpawnPoints(state, before);
     EXPECT_TRUE(PlaceItem(state, ItemKind::kBlack, 7, false));
@@ -139,22 +139,22 @@ TEST(IsSpotTaken, KeepsADistanceFromEachKindOfThing) {
     int distance;
     Put put;
   };
-  for (const auto& [thing, distance, put] :
-       std::vector<Row>{{"yellow", 16, item(ItemKind::kYellow)},
-                        {"red", 14, item(ItemKind::kRed)},
-                        {"blue", 16, item(ItemKind::kBlue)},
-                        {"black", 14, item(ItemKind::kBlack)},
-                        {"TNT", 14, item(ItemKind::kTnt)},
-                        {"power", 14, item(ItemKind::kPower)},
-                        {"hidden item", -1, item(ItemKind::kRed, false)},
-                        {"wall", 14, wall(true)},
-                        {"blown wall", -1, wall(false)},
-                        {"user item", 16, userItem(true)},
-                        {"blown user item", -1, userItem(false)},
-                        {"neck", -1, cell(1, 0)},
-                        {"first cell", -1, cell(1, 1)},
-                        {"body", 10, cell(1, 3)},
-                        {"rival", -1, cell(2, 3)}}) {
+  const Row rows[] = {{"yellow", 16, item(ItemKind::kYellow)},
+                      {"red", 14, item(ItemKind::kRed)},
+                      {"blue", 16, item(ItemKind::kBlue)},
+                      {"black", 14, item(ItemKind::kBlack)},
+                      {"TNT", 14, item(ItemKind::kTnt)},
+                      {"power", 14, item(ItemKind::kPower)},
+                      {"hidden item", -1, item(ItemKind::kRed, false)},
+                      {"wall", 14, wall(true)},
+                      {"blown wall", -1, wall(false)},
+                      {"user item", 16, userItem(true)},
+                      {"blown user item", -1, userItem(false)},
+                      {"neck", -1, cell(1, 0)},
+                      {"first cell", -1, cell(1, 1)},
+                      {"body", 10, cell(1, 3)},
+                      {"rival", -1, cell(2, 3)}};
+  for (const auto& [thing, distance, put] : rows) {
     State state;
     put(state);
     for (int d = 0; d <= 20; ++d) {

@@ -10,14 +10,14 @@ TEST(DrawAppearances, AbsentItemsMoveEveryTimeAndComeBackByTheirRates) {
     ItemKind kind;
     bool hides;
     double rate;
-    int moves, returns;
+    bool moves, returns;
   };
-  for (const auto& [kind, hides, rate, moves, returns] :
-       std::vector<Row>{{ItemKind::kBlue, false, 1, 1, 0},
-                        {ItemKind::kBlack, true, 1, 0, 0},
-                        {ItemKind::kPower, true, 1, 1, 1},
-                        {ItemKind::kPower, true, 1e9, 1, 0},
-                        {ItemKind::kYellow, false, 1, 0, 0}}) {
+  const Row rows[] = {{ItemKind::kBlue, false, 1, true, false},
+                      {ItemKind::kBlack, true, 1, false, false},
+                      {ItemKind::kPower, true, 1, true, true},
+                      {ItemKind::kPower, true, 1e9, true, false},
+                      {ItemKind::kYellow, false, 1, false, false}};
+  for (const auto& [kind, hides, rate, moves, returns] : rows) {
     Field field;
     field.state.level.HideCollected = hides;
     field.state.level.blueRate = rate;
@@ -25,8 +25,8 @@ TEST(DrawAppearances, AbsentItemsMoveEveryTimeAndComeBackByTheirRates) {
     ItemRec& item = field.Item(kind, {-7, -7});
     item.Present = false;
     DrawAppearances(field.state);
-    EXPECT_EQ(item.X != -7, moves == 1);
-    EXPECT_EQ(item.Present, returns == 1);
+    EXPECT_EQ(item.X != -7, moves) << static_cast<int>(kind);
+    EXPECT_EQ(item.Present, returns) << static_cast<int>(kind) << ' ' << rate;
   }
 }
 

@@ -24,23 +24,15 @@ TEST(ColChk, EdgesWrapKillOrLetPass) {
     int deaths;
   };
   const Point start{100, 100};
-  for (const auto& [set, head, after, deaths] :
-       std::vector<Row>{{kOpen, {0, 200}, {600, 200}, 0},
-                        {kOpen, {1, 200}, {1, 200}, 0},
-                        {kOpen, {615, 200}, {15, 200}, 0},
-                        {kOpen, {614, 200}, {614, 200}, 0},
-                        {kOpen, {200, 0}, {200, 440}, 0},
-                        {kOpen, {200, 455}, {200, 15}, 0},
-                        {kOpen, {-40, 700}, {600, 15}, 0},
-                        {kImmortal, {0, 200}, {600, 200}, 0},
-                        {kClosed, {0, 200}, start, 1},
-                        {kClosed, {1, 1}, {1, 1}, 0},
-                        {kClosed, {615, 200}, start, 1},
-                        {kClosed, {614, 454}, {614, 454}, 0},
-                        {kClosed, {200, 0}, start, 1},
-                        {kClosed, {200, 455}, start, 1},
-                        {kNoClip, {-40, 200}, {-40, 200}, 0},
-                        {kGod, {-40, 200}, {-40, 200}, 0}}) {
+  const Row rows[] = {{kOpen, {0, 200}, {600, 200}, 0},     {kOpen, {1, 200}, {1, 200}, 0},
+                      {kOpen, {615, 200}, {15, 200}, 0},    {kOpen, {614, 200}, {614, 200}, 0},
+                      {kOpen, {200, 0}, {200, 440}, 0},     {kOpen, {200, 455}, {200, 15}, 0},
+                      {kOpen, {-40, 700}, {600, 15}, 0},    {kImmortal, {0, 200}, {600, 200}, 0},
+                      {kClosed, {0, 200}, start, 1},        {kClosed, {1, 1}, {1, 1}, 0},
+                      {kClosed, {615, 200}, start, 1},      {kClosed, {614, 454}, {614, 454}, 0},
+                      {kClosed, {200, 0}, start, 1},        {kClosed, {200, 455}, start, 1},
+                      {kNoClip, {-40, 200}, {-40, 200}, 0}, {kGod, {-40, 200}, {-40, 200}, 0}};
+  for (const auto& [set, head, after, deaths] : rows) {
     Field field;
     field.Put(1, head);
     set(field);
@@ -51,28 +43,23 @@ TEST(ColChk, EdgesWrapKillOrLetPass) {
 }
 
 TEST(ColChk, BodiesKillByOverlapFromTheSecondCellOn) {
+  constexpr auto kStanding = [](Field& field) { field.Player().Dir = Dir::kNone; };
   struct Row {
     std::function<void(Field&)> set;
     Point first, second;
-    Dir dir;
     bool dies;
   };
   const Point far{400, 400};
-  for (const auto& [set, first, second, dir, dies] :
-       std::vector<Row>{{kClosed, far, {219, 200}, Dir::kRight, true},
-                        {kClosed, far, {220, 200}, Dir::kRight, false},
-                        {kClosed, far, {181, 219}, Dir::kRight, true},
-                        {kClosed, far, {180, 200}, Dir::kRight, false},
-                        {kClosed, far, {200, 180}, Dir::kRight, false},
-                        {kClosed, far, {200, 220}, Dir::kRight, false},
-                        {kClosed, {200, 200}, far, Dir::kRight, false},
-                        {kClosed, far, {200, 200}, Dir::kNone, false},
-                        {kImmortal, far, {200, 200}, Dir::kRight, false},
-                        {kGod, far, {200, 200}, Dir::kRight, false}}) {
+  const Row rows[] = {{kClosed, far, {219, 200}, true},    {kClosed, far, {220, 200}, false},
+                      {kClosed, far, {181, 219}, true},    {kClosed, far, {180, 200}, false},
+                      {kClosed, far, {200, 180}, false},   {kClosed, far, {200, 220}, false},
+                      {kClosed, {200, 200}, far, false},   {kStanding, far, {200, 200}, false},
+                      {kImmortal, far, {200, 200}, false}, {kGod, far, {200, 200}, false}};
+  for (const auto& [set, first, second, dies] : rows) {
     for (const int owner : {1, 2}) {
       Field field;
       field.Put(2, far, Dir::kNone);
-      field.Put(1, {200, 200}, dir);
+      field.Put(1, {200, 200});
       field.Body(owner, {first, second});
       set(field);
       ColChk(field.game);
@@ -87,11 +74,11 @@ TEST(ColChk, AKillCountsTheVictimsLengthAfterItsRespawn) {
     bool hunting;
     int victim, frags, score, grow;
   };
-  for (const auto& [mode, hunting, victim, frags, score, grow] :
-       std::vector<Row>{{GameMode::kSingle, false, 2, 0, 0, 0},
-                        {GameMode::kDeathmatch, false, 2, 1, 3, 0},
-                        {GameMode::kDeathmatch, false, 1, -1, 0, 0},
-                        {GameMode::kNetDeathmatch, true, 2, 1, 3, 3}}) {
+  const Row rows[] = {{GameMode::kSingle, false, 2, 0, 0, 0},
+                      {GameMode::kDeathmatch, false, 2, 1, 3, 0},
+                      {GameMode::kDeathmatch, false, 1, -1, 0, 0},
+                      {GameMode::kNetDeathmatch, true, 2, 1, 3, 3}};
+  for (const auto& [mode, hunting, victim, frags, score, grow] : rows) {
     Field field;
     field.state.mode.GameMode = mode;
     field.state.mode.HuntingMode = hunting;

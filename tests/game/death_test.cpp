@@ -15,19 +15,19 @@ TEST(DeathMessage, ByCauseDrawAndCount) {
     int killer, draw, deaths;
     std::string text;
   };
-  for (const auto& [cause, killer, draw, deaths, text] :
-       std::vector<Row>{{DeathCause::kWall, 1, 1, 10, "Ann hit a wall. bang!"},
-                        {DeathCause::kWall, 1, 1, 11, "Ann dies the 11th time!"},
-                        {DeathCause::kWall, 1, 2, 11, "Ann was in the wrong place"},
-                        {DeathCause::kWall, 1, 3, 1, "Ann looses another frag!"},
-                        {DeathCause::kSnake, 1, 1, 1, "Ann bite him/herself! - What a LOOSER!"},
-                        {DeathCause::kSnake, 1, 3, 2, "Ann lost his 2 live"},
-                        {DeathCause::kSnake, 2, 1, 9, "Ann didn't see Bot2!"},
-                        {DeathCause::kSnake, 2, 2, 3, "Bot2 stopped Ann and gets another frag!"},
-                        {DeathCause::kSnake, 2, 3, 4, "Ann hit Bot2 and dies the 4th time!"},
-                        {DeathCause::kEdge, 1, 1, 1, "Ann didn't see the wall."},
-                        {DeathCause::kEdge, 1, 2, 1, "A wall stopped Ann"},
-                        {DeathCause::kEdge, 1, 3, 1, "Ann, tried to walk through a wall"}}) {
+  const Row rows[] = {{DeathCause::kWall, 1, 1, 10, "Ann hit a wall. bang!"},
+                      {DeathCause::kWall, 1, 1, 11, "Ann dies the 11th time!"},
+                      {DeathCause::kWall, 1, 2, 11, "Ann was in the wrong place"},
+                      {DeathCause::kWall, 1, 3, 1, "Ann looses another frag!"},
+                      {DeathCause::kSnake, 1, 1, 1, "Ann bite him/herself! - What a LOOSER!"},
+                      {DeathCause::kSnake, 1, 3, 2, "Ann lost his 2 live"},
+                      {DeathCause::kSnake, 2, 1, 9, "Ann didn't see Bot2!"},
+                      {DeathCause::kSnake, 2, 2, 3, "Bot2 stopped Ann and gets another frag!"},
+                      {DeathCause::kSnake, 2, 3, 4, "Ann hit Bot2 and dies the 4th time!"},
+                      {DeathCause::kEdge, 1, 1, 1, "Ann didn't see the wall."},
+                      {DeathCause::kEdge, 1, 2, 1, "A wall stopped Ann"},
+                      {DeathCause::kEdge, 1, 3, 1, "Ann, tried to walk through a wall"}};
+  for (const auto& [cause, killer, draw, deaths, text] : rows) {
     Field field;
     field.Player().Deaths = deaths;
     EXPECT_EQ(DeathMessage(field.Player(), cause, field.Snake(killer), draw), text);
@@ -107,13 +107,13 @@ TEST(GameOver, OverwritesOneEntryAndShiftsNone) {
       "1.At=100,100 1.Deaths=1 1.Dir=none 1.Lives=3 1.NextDir=none 1.TotalScore=0 2.Dir=none "
       "2.NextDir=none "
       "InMenu=1 NoGameRunning=1 ";
-  for (const auto& [cheated, total, place, notice, told] :
-       std::vector<Row>{{false, 8500, 3, "260 This is a new High Score!",
-                         "ScorePage=1 lvlTime=1 [\\snd\\wall.wav 1] [load] [save]"},
-                        {true, 8500, 0, "260 This would be a new High Score! - But you cheated!",
-                         "lvlTime=1 [\\snd\\wall.wav 1] [load]"},
-                        {false, 1000, 0, "200 " + std::string(20, '*'),
-                         "lvlTime=1 [\\snd\\wall.wav 1] [load]"}}) {
+  const Row rows[] = {
+      {false, 8500, 3, "260 This is a new High Score!",
+       "ScorePage=1 lvlTime=1 [\\snd\\wall.wav 1] [load] [save]"},
+      {true, 8500, 0, "260 This would be a new High Score! - But you cheated!",
+       "lvlTime=1 [\\snd\\wall.wav 1] [load]"},
+      {false, 1000, 0, "200 " + std::string(20, '*'), "lvlTime=1 [\\snd\\wall.wav 1] [load]"}};
+  for (const auto& [cheated, total, place, notice, told] : rows) {
     Field field;
     for (int i = 1; i <= kHiScores; ++i) field.state.HiScore(i) = {"Old", 11000.0 - 1000 * i};
     field.state.mode.Cheated = cheated;

@@ -14,13 +14,10 @@ TEST(EatItems, EveryKindHasItsReach) {
     ItemKind kind;
     int minX, maxX, minY, maxY;
   };
-  for (const auto& [kind, minX, maxX, minY, maxY] :
-       std::vector<Row>{{ItemKind::kYellow, -16, 16, -16, 16},
-                        {ItemKind::kRed, -16, 12, -12, 12},
-                        {ItemKind::kBlue, -16, 16, -16, 16},
-                        {ItemKind::kBlack, -16, 12, -16, 12},
-                        {ItemKind::kTnt, -16, 12, -16, 12},
-                        {ItemKind::kPower, -16, 12, -16, 12}}) {
+  const Row rows[] = {{ItemKind::kYellow, -16, 16, -16, 16}, {ItemKind::kRed, -16, 12, -12, 12},
+                      {ItemKind::kBlue, -16, 16, -16, 16},   {ItemKind::kBlack, -16, 12, -16, 12},
+                      {ItemKind::kTnt, -16, 12, -16, 12},    {ItemKind::kPower, -16, 12, -16, 12}};
+  for (const auto& [kind, minX, maxX, minY, maxY] : rows) {
     const auto eaten = [&, k = kind](int dx, int dy) {
       Field field;
       field.Put(1, kHead);
@@ -140,13 +137,13 @@ TEST(EatItems, RedSpeedsUpByThePeriodOfTheTimer) {
     int interval;
     std::string feed;
   };
-  for (const auto& [timer, base, cut, keeps, interval, feed] :
-       std::vector<Row>{{100, 100, 20, false, 80, "\"You are now 20% faster for 7 seconds\" "},
-                        {100, 100, 20, true, 80, "\"You are now 20% faster\" "},
-                        {100, 100, 10, false, 90, ""},
-                        {200, 100, 10, false, 90, "\"You are now 55% faster for 7 seconds\" "},
-                        {0, 100, 10, false, 90, ""},
-                        {35, 35, 29, false, 30, "\"You are now 15% faster for 7 seconds\" "}}) {
+  const Row rows[] = {{100, 100, 20, false, 80, "\"You are now 20% faster for 7 seconds\" "},
+                      {100, 100, 20, true, 80, "\"You are now 20% faster\" "},
+                      {100, 100, 10, false, 90, ""},
+                      {200, 100, 10, false, 90, "\"You are now 55% faster for 7 seconds\" "},
+                      {0, 100, 10, false, 90, ""},
+                      {35, 35, 29, false, 30, "\"You are now 15% faster for 7 seconds\" "}};
+  for (const auto& [timer, base, cut, keeps, interval, feed] : rows) {
     Field field;
     field.Player().BaseInterval = base;
     field.Player().Interval = 5;

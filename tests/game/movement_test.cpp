@@ -12,14 +12,11 @@ TEST(TurnPlayer, TakesEveryDirectionButTheReverse) {
   struct Row {
     Dir dir, asked, taken;
   };
-  for (const auto& [dir, asked, taken] : std::vector<Row>{{Dir::kLeft, Dir::kRight, Dir::kLeft},
-                                                          {Dir::kRight, Dir::kLeft, Dir::kRight},
-                                                          {Dir::kForw, Dir::kBack, Dir::kForw},
-                                                          {Dir::kBack, Dir::kForw, Dir::kBack},
-                                                          {Dir::kLeft, Dir::kForw, Dir::kForw},
-                                                          {Dir::kLeft, Dir::kLeft, Dir::kLeft},
-                                                          {Dir::kNone, Dir::kBack, Dir::kBack},
-                                                          {Dir::kLeft, Dir::kNone, Dir::kNone}}) {
+  const Row rows[] = {{Dir::kLeft, Dir::kRight, Dir::kLeft}, {Dir::kRight, Dir::kLeft, Dir::kRight},
+                      {Dir::kForw, Dir::kBack, Dir::kForw},  {Dir::kBack, Dir::kForw, Dir::kBack},
+                      {Dir::kLeft, Dir::kForw, Dir::kForw},  {Dir::kLeft, Dir::kLeft, Dir::kLeft},
+                      {Dir::kNone, Dir::kBack, Dir::kBack},  {Dir::kLeft, Dir::kNone, Dir::kNone}};
+  for (const auto& [dir, asked, taken] : rows) {
     Field field;
     field.Put(1, {100, 100}, dir).NextDir = asked;
     TurnPlayer(field.state);
@@ -31,17 +28,17 @@ TEST(TurnPlayer, TakesEveryDirectionButTheReverse) {
 TEST(BodyUpdate, CornersTravelDownTheBody) {
   const std::map<char, Dir> dirs = {
       {'F', Dir::kForw}, {'B', Dir::kBack}, {'L', Dir::kLeft}, {'R', Dir::kRight}};
-  const std::vector<std::pair<std::string, std::string>> rows = {
-      {"FFFL", "Left FL Forw Forw"},   {"FFFLL", "Left Left FL Forw"},
-      {"FFFLLL", "Left Left Left FL"}, {"FFFLLLL", "Left Left Left Left"},
-      {"FFFLF", "Forw LF FL Forw"},    {"FFFRB", "Back RB FR Forw"},
-      {"BBBRF", "Forw RF BR Back"},    {"BBBLB", "Back LB BL Back"}};
+  using Row = std::pair<const char*, const char*>;
+  const Row rows[] = {{"FFFL", "Left FL Forw Forw"},   {"FFFLL", "Left Left FL Forw"},
+                      {"FFFLLL", "Left Left Left FL"}, {"FFFLLLL", "Left Left Left Left"},
+                      {"FFFLF", "Forw LF FL Forw"},    {"FFFRB", "Back RB FR Forw"},
+                      {"BBBRF", "Forw RF BR Back"},    {"BBBLB", "Back LB BL Back"}};
   for (const auto& [moves, cells] : rows) {
     Field field;
     SnakeRec& player = field.Put(1, {200, 200});
     player.Length = 3;
     std::vector<Point> trail;
-    for (const char move : moves) {
+    for (const char move : std::string_view(moves)) {
       trail.insert(trail.begin(), player.Head());
       player.Dir = dirs.at(move);
       MoveHead(field.state, kPlayer);

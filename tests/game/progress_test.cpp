@@ -60,11 +60,11 @@ TEST(NextLevel, AddsScoreAndTimeBonusAndLoadsTheNext) {
     std::string total;
   };
   const std::string record = " This is a new High Score!";
-  for (const auto& [timeout, lowest, more, total] :
-       std::vector<Row>{{120, 1319, {"260 Time Bonus: 20 pts", "275" + record}, "1320"},
-                        {120, 1320, {"260 Time Bonus: 20 pts"}, "1320"},
-                        {60, 5000, {"260 Time Bonus: -40 pts"}, "1260"},
-                        {0, 1000, {"260" + record}, "1300"}}) {
+  const Row rows[] = {{120, 1319, {"260 Time Bonus: 20 pts", "275" + record}, "1320"},
+                      {120, 1320, {"260 Time Bonus: 20 pts"}, "1320"},
+                      {60, 5000, {"260 Time Bonus: -40 pts"}, "1260"},
+                      {0, 1000, {"260" + record}, "1300"}};
+  for (const auto& [timeout, lowest, more, total] : rows) {
     Field field;
     for (HiScoreEntry& entry : field.state.HiScore) entry.Score = 9999;
     field.state.HiScore(10).Score = lowest;
@@ -119,30 +119,25 @@ TEST(CheckTimeLimit, RespawnsWithoutADeath) {
     std::string told;
     std::vector<WaitOverlay> overlays;
   };
-  const std::string respawn = "1.At=100,100 1.Dir=none ";
-  for (const auto& [timeout, elapsed, timePass, lives, told, overlays] : std::vector<Row>{
-           {60, 59, false, 3, "", {}},
-           {60,
-            60,
-            false,
-            3,
-            respawn + "1.Lives=2 1.NextDir=none ElapsedSecs=0 WaitingForStart=1 lvlTime=1",
-            {WaitOverlay::kTimeLimit}},
-           {60,
-            60,
-            false,
-            0,
-            respawn + "1.Lives=3 1.NextDir=none ElapsedSecs=0 InMenu=1 NoGameRunning=1 "
-                      "WaitingForStart=1 lvlTime=1",
-            {WaitOverlay::kTimeLimit, WaitOverlay::kGameOver}},
-           {60, 90, true, 3, "", {}},
-           {0, 90, false, 3, "", {}}}) {
+  const std::string start = "1.At=100,100 1.Dir=none ";
+  const std::string respawn =
+      start + "1.Lives=2 1.NextDir=none ElapsedSecs=0 WaitingForStart=1 lvlTime=1";
+  const std::string over = start +
+                           "1.Lives=3 1.NextDir=none ElapsedSecs=0 InMenu=1 "
+                           "NoGameRunning=1 WaitingForStart=1 lvlTime=1";
+  using enum WaitOverlay;
+  const Row rows[] = {{60, 59, false, 3, "", {}},
+                      {60, 60, false, 3, respawn, {kTimeLimit}},
+                      {60, 60, false, 0, over, {kTimeLimit, kGameOver}},
+                      {60, 90, true, 3, "", {}},
+                      {0, 90, false, 3, "", {}}};
+  for (const auto& [timeout, elapsed, timePass, lives, told, overlays] : rows) {
     Field field;
     field.Put(1, {300, 300}).Lives = lives;
     field.state.level.Timeout = timeout;
     field.state.level.ElapsedSecs = elapsed;
     field.state.mode.TimePass = timePass;
-    EXPECT_EQ(field.After(CheckTimeLimit), told);
+    EXPECT_EQ(field.After(CheckTimeLimit), told) << elapsed << " of " << timeout;
     EXPECT_EQ(field.host.overlays, overlays);
   }
 }

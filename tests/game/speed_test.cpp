@@ -44,11 +44,11 @@ TEST(SpeedReset, GivesTheNormalPeriodBack) {
     int interval;
     bool red;
   };
-  for (const auto& [keeps, option, hides, interval, red] :
-       std::vector<Row>{{false, false, false, 100, true},
-                        {false, false, true, 100, false},
-                        {false, true, false, 80, true},
-                        {true, false, false, 55, false}}) {
+  const Row rows[] = {{false, false, false, 100, true},
+                      {false, false, true, 100, false},
+                      {false, true, false, 80, true},
+                      {true, false, false, 55, false}};
+  for (const auto& [keeps, option, hides, interval, red] : rows) {
     Field field;
     Timers& timers = field.state.timers;
     timers.SetInterval(timers.iWait(0), 55);

@@ -23,12 +23,9 @@ TEST(WallCheck, OneChargeBlowsTwoAndTheThirdKills) {
   struct Row {
     int tnt, walls, left, standing, deaths;
   };
-  for (const auto& [tnt, walls, left, standing, deaths] : std::vector<Row>{{0, 1, 0, 1, 1},
-                                                                           {1, 1, 0, 0, 0},
-                                                                           {1, 2, 0, 0, 0},
-                                                                           {1, 3, 0, 1, 1},
-                                                                           {2, 3, 0, 0, 0},
-                                                                           {3, 4, 1, 0, 0}}) {
+  const Row rows[] = {{0, 1, 0, 1, 1}, {1, 1, 0, 0, 0}, {1, 2, 0, 0, 0},
+                      {1, 3, 0, 1, 1}, {2, 3, 0, 0, 0}, {3, 4, 1, 0, 0}};
+  for (const auto& [tnt, walls, left, standing, deaths] : rows) {
     Field field;
     field.Put(1, kHead).TNT = tnt;
     for (int wall = 0; wall < walls; ++wall) field.Walls({{kHead.x + 4 * wall, kHead.y}});
@@ -40,19 +37,17 @@ TEST(WallCheck, OneChargeBlowsTwoAndTheThirdKills) {
 }
 
 TEST(WallCheck, GodsAndImmortalsPass) {
-  Field field;
-  field.Put(1, kHead).TNT = 1;
-  field.Put(2, kHead);
-  field.Player().Immortal = true;
-  field.Walls({kHead});
-  WallCheck(field.game);
-  EXPECT_EQ(field.Player().TNT, 1);
-  EXPECT_EQ(field.Snake(2).Deaths, 1) << "others are checked as usual";
-  field.Put(2, kHead);
-  field.state.mode.GodMode = true;
-  WallCheck(field.game);
-  EXPECT_EQ(field.Snake(2).Deaths, 1);
-  EXPECT_EQ(field.StandingWalls(), 1);
+  for (const bool god : {false, true}) {
+    Field field;
+    field.Put(1, kHead).TNT = 1;
+    field.Put(2, kHead);
+    field.Walls({kHead});
+    field.Player().Immortal = true;
+    field.state.mode.GodMode = god;
+    WallCheck(field.game);
+    EXPECT_EQ(field.StandingWalls(), 1);
+    EXPECT_EQ(field.Snake(2).Deaths, god ? 0 : 1) << "others are checked as usual";
+  }
 }
 
 TEST(WallCheck, UserWallsByType) {
@@ -62,26 +57,26 @@ TEST(WallCheck, UserWallsByType) {
     int tnt, deaths, left;
     bool stands;
   };
-  for (const auto& [type, present, tnt, deaths, left, stands] :
-       std::vector<Row>{{"wall", true, 1, 0, 0, false},
-                        {"ani_wall", true, 0, 1, 0, true},
-                        {"wall", false, 0, 0, 0, false},
-                        {"Wall", true, 0, 0, 0, true},
-                        {"walls", true, 0, 0, 0, true},
-                        {"wall_no_tnt", true, 5, 1, 5, true},
-                        {"ani_wall_no_tnt", false, 5, 1, 5, false}}) {
+  const Row rows[] = {{"wall", true, 1, 0, 0, false},
+                      {"ani_wall", true, 0, 1, 0, true},
+                      {"wall", false, 0, 0, 0, false},
+                      {"Wall", true, 0, 0, 0, true},
+                      {"walls", true, 0, 0, 0, true},
+                      {"wall_no_tnt", true, 5, 1, 5, true},
+                      {"ani_wall_no_tnt", false, 5, 1, 5, false}};
+  for (const auto& [type, present, tnt, deaths, left, stands] : rows) {
     Field field;
     field.Put(1, kHead).TNT = tnt;
     const UserItemRec& item = field.UserWall(kHead, type, present);
+    field.state.level.UserItemsUsed = false;
+    WallCheck(field.game);
+    EXPECT_EQ(field.Player().Deaths, 0) << "without pictures nothing counts";
+    EXPECT_EQ(item.Present, present) << type;
+    field.state.level.UserItemsUsed = true;
     WallCheck(field.game);
     EXPECT_EQ(field.Player().Deaths, deaths) << type;
     EXPECT_EQ(field.Player().TNT, left) << type;
     EXPECT_EQ(item.Present, stands) << type;
-
-    field.Put(1, kHead);
-    field.state.level.UserItemsUsed = false;
-    WallCheck(field.game);
-    EXPECT_EQ(field.Player().Deaths, deaths) << "without pictures nothing counts";
   }
 }
 

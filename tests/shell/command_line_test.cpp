@@ -1,12 +1,12 @@
 #include "shell/command_line.h"
 
-#include <functional>
+#include <sstream>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "ports/terminate.h"
 #include "shell/memory_settings.h"
+#include "support/fake_files.h"
 
 namespace coilrun {
 namespace {
@@ -23,20 +23,6 @@ TEST(SplitSwitches, CutsBeforeTheBlankThatPrecedesASlash) {
       << "the character before a slash is taken for a blank";
 }
 
-class OneLevel final : public Files {
- public:
-  bool Exists(const std::string& path) const override { return path == ".\\lvl\\lvl3.dat"; }
-  std::optional<Bytes> Read(const std::string&) const override { return std::nullopt; }
-  std::optional<std::vector<std::string>> List(const std::string&,
-                                               std::string_view) const override {
-    return std::nullopt;
-  }
-  bool Write(const std::string&, std::span<const std::uint8_t>) override { return false; }
-  bool MakeFolder(const std::string&) override { return false; }
-  bool Delete(const std::string&) override { return false; }
-  std::string FullName(const std::string& path) const override { return path; }
-};
-
 class LoudBox final : public MessageBox {
  public:
   BoxAnswer Show(const std::string& title, const std::string& text, BoxButtons) override {
@@ -47,59 +33,54 @@ class LoudBox final : public MessageBox {
 };
 
 struct Switches {
+  Switches() { files.Put(".\\lvl\\lvl3.dat", ""); }
+
   State state;
-  OneLevel files;
+  FakeFiles files;
   LoudBox box;
   MemorySettings settings;
 
-  const State& Run(std::string_view commandLine) {
+  void Run(std::string_view commandLine) {
     CommandLine commands(state, files, box, settings);
     for (const std::string& arg : SplitSwitches(commandLine)) commands.SetCommand(arg);
-    return state;
+  }
+  /// What switches set, as text.
+  std::string Mode() const {
+    const ModeState& mode = state.mode;
+    std::ostringstream text;
+    text << Word(mode.GameMode) << (mode.HuntingMode ? " hunting " : "") << "to " << mode.MatchLimit
+         << ", " << mode.NumSnakes << " snakes" << (mode.AiEnabled ? " with AI" : "");
+    if (mode.AiSwitchGiven) text << " of " << mode.AiCount;
+    text << ", keys " << mode.KeyboardLayout;
+    if (mode.LevelSwitchGiven) text << ", level " << mode.StartLevelPath;
+    if (state.shell.DebugMode) text << ", debug";
+    if (state.settings.NoCleanUp) text << ", no clean-up";
+    return text.str();
   }
 };
 
-struct SwitchCase {
-  const char* commandLine;
-  std::function<bool(const State&)> holds;
-};
-
 TEST(CommandLine, SwitchesSetTheMode) {
-  const SwitchCase cases[] = {
-      {"/DM /H /Limit=1",
-       [](const State& s) {
-         return s.mode.GameMode == GameMode::kDeathmatch && s.mode.HuntingMode &&
-                s.mode.MatchLimit == 30;
-       }},
-      {"/Limit=1 /H", [](const State& s) { return s.mode.MatchLimit == 120; }},
-      {"/Limit=7", [](const State& s) { return s.mode.MatchLimit == 7; }},
-      {"/Limit=40000", [](const State& s) { return s.mode.MatchLimit == 0; }},
-      {"/H2", [](const State& s) { return !s.mode.HuntingMode; }},
-      {"/dm", [](const State& s) { return s.mode.GameMode == GameMode::kSingle; }},
-      {"/AIS=3",
-       [](const State& s) {
-         return s.mode.NumSnakes == 4 && s.mode.AiEnabled && s.mode.AiCount == 3;
-       }},
-      {"/AIS=99", [](const State& s) { return s.mode.NumSnakes == 16 && s.mode.AiCount == 99; }},
-      {"/AIS=-2",
-       [](const State& s) {
-         return s.mode.NumSnakes == 1 && !s.mode.AiEnabled && s.mode.AiSwitchGiven;
-       }},
-      {"/KM=DE", [](const State& s) { return s.mode.KeyboardLayout == "DE"; }},
-      {"/KM=FR", [](const State& s) { return s.mode.KeyboardLayout == "US"; }},
-      {"/L=lvl3.dat /Debug",
-       [](const State& s) {
-         return s.mode.StartLevelPath == ".\\lvl\\lvl3.dat" && s.shell.DebugMode;
-       }},
-      {"/L=",
-       [](const State& s) { return s.mode.LevelSwitchGiven && s.mode.StartLevelPath.empty(); }},
-      {"/NoClean=TRUE", [](const State& s) { return s.settings.NoCleanUp; }},
-      {"/NoClean=perhaps", [](const State& s) { return !s.settings.NoCleanUp; }},
-      {"xyz /Debug", [](const State& s) { return s.shell.DebugMode; }},
-  };
-  for (const SwitchCase& given : cases) {
+  using Row = std::pair<const char*, const char*>;
+  const Row rows[] = {
+      {"/DM /H /Limit=1", "DM hunting to 30, 1 snakes, keys US"},
+      {"/Limit=1 /H", " hunting to 120, 1 snakes, keys US"},
+      {"/Limit=2", "to 2, 1 snakes, keys US"},
+      {"/Limit=40000", "to 0, 1 snakes, keys US"},
+      {"/H2 /dm", "to 0, 1 snakes, keys US"},
+      {"/AIS=3", "to 0, 4 snakes with AI of 3, keys US"},
+      {"/AIS=99", "to 0, 16 snakes with AI of 99, keys US"},
+      {"/AIS=-2", "to 0, 1 snakes of 0, keys US"},
+      {"/KM=DE", "to 0, 1 snakes, keys DE"},
+      {"/KM=FR", "to 0, 1 snakes, keys US"},
+      {"/L=lvl3.dat /Debug", "to 0, 1 snakes, keys US, level .\\lvl\\lvl3.dat, debug"},
+      {"/L=", "to 0, 1 snakes, keys US, level "},
+      {"/NoClean=TRUE", "to 0, 1 snakes, keys US, no clean-up"},
+      {"/NoClean=perhaps", "to 0, 1 snakes, keys US"},
+      {"xyz /Debug", "to 0, 1 snakes, keys US, debug"}};
+  for (const auto& [commandLine, mode] : rows) {
     Switches switches;
-    EXPECT_TRUE(given.holds(switches.Run(given.commandLine))) << given.commandLine;
+    switches.Run(commandLine);
+    EXPECT_EQ(switches.Mode(), mode) << commandLine;
   }
 }
 

@@ -22,8 +22,7 @@ TEST(ScanToChar, FollowsBothLayouts) {
       {43, false, "US", "\\"},  {43, true, "US", "|"},     {53, true, "DE", "_"},
       {39, false, "FR", ";"},   {28, false, "US", ""},     {1, false, "US", ""},
       {42, true, "US", ""},     {58, false, "US", ""},     {-1, false, "US", ""},
-      {41, false, "US", ""},
-  };
+      {41, false, "US", ""}};
   for (const KeyCase& given : cases) {
     EXPECT_EQ(ScanToChar(given.code, given.shift, given.layout), given.character)
         << given.layout << ' ' << given.code << (given.shift ? " shifted" : "");
