@@ -1,6 +1,8 @@
 #include "content/ai_snakes.h"
 
 #include <set>
+#include <string>
+#include <tuple>
 
 #include <gmock/gmock.h>
 
@@ -34,12 +36,7 @@ TEST(SetupAiSnakes, PreparesTheSnakesInPlay) {
 }
 
 TEST(SetupAiSnakes, GivesEachSnakeANameOfItsOwnWhileThereAreAny) {
-  struct Row {
-    std::string file;
-    int snakes;
-    bool done;
-    std::set<std::string> names;
-  };
+  using Row = std::tuple<std::string, int, bool, std::set<std::string>>;
   const std::string blank(98, '\n');
   const Row rows[] = {
       {"Ann\r\n\r\nBob\r\n   \r\nAnn\r\n", 4, true, {"<bot> Ann", "<bot> Bob", "AI_Snake 3"}},

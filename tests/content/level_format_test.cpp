@@ -34,12 +34,6 @@ TEST(MapRow, ClosesACellAtEachBlankButNotAtTheLastCharacter) {
   for (const auto& [line, cells] : rows) EXPECT_EQ(Cells(line), cells) << '"' << line << '"';
 }
 
-TEST(MapRow, EndsWhenTheVisitorSaysSo) {
-  int visited = 0;
-  EXPECT_FALSE(ScanRow("| | | .", [&](int, std::string_view) { return ++visited < 2; }));
-  EXPECT_EQ(visited, 2);
-}
-
 TEST(CellCodes, AreSingleExactCharacters) {
   EXPECT_EQ(CodeOf("<")->wall, WallKind::kVL);
   EXPECT_EQ(CodeOf(".")->wall, WallKind::kHB);

@@ -2,6 +2,7 @@
 
 #include <sstream>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -155,11 +156,8 @@ TEST_F(LoadLevelTest, LeavesItemsAbsentOnAFullField) {
 }
 
 TEST_F(LoadLevelTest, CountsSnakesByKeySwitchAndMap) {
-  struct Row {
-    std::string text;
-    int switchCount;  ///< "/AIS=" of the command line, -1 without
-    int snakes;
-  };
+  // In the middle "/AIS=" of the command line, -1 without.
+  using Row = std::tuple<std::string, int, int>;
   const Row rows[] = {{"S 1 2 3 4 5 .\nAIS=3\n", -1, 4},
                       {"S 1 .\nAIS=3\n", -1, 2},
                       {"1 2 S .\nAIS=3\n", -1, 1},
@@ -190,11 +188,7 @@ TEST_F(LoadLevelTest, KeepsThePlayerOnAMapWithoutStarts) {
 }
 
 TEST_F(LoadLevelTest, SetsTheMatchLimitOnlyWhenItHasNone) {
-  struct Row {
-    int before;
-    bool hunting;
-    int after;
-  };
+  using Row = std::tuple<int, bool, int>;
   const Row rows[] = {{1, false, 120}, {0, true, 30}, {30, false, 30}};
   for (const auto& [before, hunting, after] : rows) {
     state.mode.MatchLimit = before;

@@ -3,6 +3,7 @@
 #include <functional>
 #include <set>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -48,11 +49,7 @@ TEST(PlaceItem, SpreadsTheFirstItemsOverAllSpawnPoints) {
 }
 
 TEST(PlaceItem, TakesTheFirstFreePointDuringPlayAndPassesNewOnesOnce) {
-  struct Row {
-    std::vector<std::string> before;
-    int placedOn;
-    std::vector<std::string> after;
-  };
+  using Row = std::tuple<std::vector<std::string>, int, std::vector<std::string>>;
   const Row rows[] = {{{"", ""}, 1, {"7", ""}},
                       {{"1", "", "3"}, 2, {"1", "7", "3"}},
                       {{"1", "new", "3"}, -1, {"1", "", "3"}},
@@ -106,11 +103,6 @@ TEST(PlaceItem, ParksTheItemOfAFullField) {
   EXPECT_EQ(state.Items(ItemKind::kPower)(300).SpawnPoint, -1);
 }
 
-TEST(PlaceItem, RefusesSlotsThatDoNotExist) {
-  State state;
-  EXPECT_THROW(PlaceItem(state, ItemKind::kRed, 301, true), std::out_of_range);
-}
-
 TEST(IsSpotTaken, KeepsADistanceFromEachKindOfThing) {
   using Put = std::function<void(State&)>;
   const auto item = [](ItemKind kind, bool present = true) -> Put {
@@ -134,11 +126,7 @@ TEST(IsSpotTaken, KeepsADistanceFromEachKindOfThing) {
       state.Snakes(snake).Seg(number) = {100, 100, Dir::kLeft};
     };
   };
-  struct Row {
-    const char* thing;
-    int distance;
-    Put put;
-  };
+  using Row = std::tuple<const char*, int, Put>;
   const Row rows[] = {{"yellow", 16, item(ItemKind::kYellow)},
                       {"red", 14, item(ItemKind::kRed)},
                       {"blue", 16, item(ItemKind::kBlue)},

@@ -5,13 +5,7 @@
 namespace coilrun {
 namespace {
 
-struct Row {
-  const char* what;
-  Point head;
-  Dir dir;
-  std::vector<Point> yellow, walls;
-  Dir choice;
-};
+using Row = std::tuple<const char*, Point, Dir, std::vector<Point>, std::vector<Point>, Dir>;
 
 TEST(AIChoose, ByTargetEdgeObstacleAndReversal) {
   using enum Dir;

@@ -6,12 +6,7 @@ namespace coilrun {
 namespace {
 
 TEST(DrawAppearances, AbsentItemsMoveEveryTimeAndComeBackByTheirRates) {
-  struct Row {
-    ItemKind kind;
-    bool hides;
-    double rate;
-    bool moves, returns;
-  };
+  using Row = std::tuple<ItemKind, bool, double, bool, bool>;
   const Row rows[] = {{ItemKind::kBlue, false, 1, true, false},
                       {ItemKind::kBlack, true, 1, false, false},
                       {ItemKind::kPower, true, 1, true, true},

@@ -18,11 +18,7 @@ constexpr auto kGod = [](Field& field) {
 };
 
 TEST(ColChk, EdgesWrapKillOrLetPass) {
-  struct Row {
-    std::function<void(Field&)> set;
-    Point head, after;
-    int deaths;
-  };
+  using Row = std::tuple<void (*)(Field&), Point, Point, int>;
   const Point start{100, 100};
   const Row rows[] = {{kOpen, {0, 200}, {600, 200}, 0},     {kOpen, {1, 200}, {1, 200}, 0},
                       {kOpen, {615, 200}, {15, 200}, 0},    {kOpen, {614, 200}, {614, 200}, 0},
@@ -44,11 +40,7 @@ TEST(ColChk, EdgesWrapKillOrLetPass) {
 
 TEST(ColChk, BodiesKillByOverlapFromTheSecondCellOn) {
   constexpr auto kStanding = [](Field& field) { field.Player().Dir = Dir::kNone; };
-  struct Row {
-    std::function<void(Field&)> set;
-    Point first, second;
-    bool dies;
-  };
+  using Row = std::tuple<void (*)(Field&), Point, Point, bool>;
   const Point far{400, 400};
   const Row rows[] = {{kClosed, far, {219, 200}, true},    {kClosed, far, {220, 200}, false},
                       {kClosed, far, {181, 219}, true},    {kClosed, far, {180, 200}, false},
@@ -69,11 +61,7 @@ TEST(ColChk, BodiesKillByOverlapFromTheSecondCellOn) {
 }
 
 TEST(ColChk, AKillCountsTheVictimsLengthAfterItsRespawn) {
-  struct Row {
-    GameMode mode;
-    bool hunting;
-    int victim, frags, score, grow;
-  };
+  using Row = std::tuple<GameMode, bool, int, int, int, int>;
   const Row rows[] = {{GameMode::kSingle, false, 2, 0, 0, 0},
                       {GameMode::kDeathmatch, false, 2, 1, 3, 0},
                       {GameMode::kDeathmatch, false, 1, -1, 0, 0},

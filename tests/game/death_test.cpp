@@ -10,11 +10,7 @@ namespace {
 using testing::ElementsAre;
 
 TEST(DeathMessage, ByCauseDrawAndCount) {
-  struct Row {
-    DeathCause cause;
-    int killer, draw, deaths;
-    std::string text;
-  };
+  using Row = std::tuple<DeathCause, int, int, int, std::string>;
   const Row rows[] = {{DeathCause::kWall, 1, 1, 10, "Ann hit a wall. bang!"},
                       {DeathCause::kWall, 1, 1, 11, "Ann dies the 11th time!"},
                       {DeathCause::kWall, 1, 2, 11, "Ann was in the wrong place"},
@@ -98,11 +94,7 @@ TEST(KillSnake, AnAiSnakeDiesWithoutAScreen) {
 }
 
 TEST(GameOver, OverwritesOneEntryAndShiftsNone) {
-  struct Row {
-    bool cheated;
-    int total, place;
-    std::string notice, changes;
-  };
+  using Row = std::tuple<bool, int, int, std::string, std::string>;
   const std::string changes =
       "1.At=100,100 1.Deaths=1 1.Dir=none 1.Lives=3 1.NextDir=none 1.TotalScore=0 2.Dir=none "
       "2.NextDir=none "

@@ -5,15 +5,10 @@
 namespace coilrun {
 namespace {
 
-using testing::EndsWith;
-
 constexpr Point kHead{200, 200};
 
 TEST(EatItems, EveryKindHasItsReach) {
-  struct Row {
-    ItemKind kind;
-    int minX, maxX, minY, maxY;
-  };
+  using Row = std::tuple<ItemKind, int, int, int, int>;
   const Row rows[] = {{ItemKind::kYellow, -16, 16, -16, 16}, {ItemKind::kRed, -16, 12, -12, 12},
                       {ItemKind::kBlue, -16, 16, -16, 16},   {ItemKind::kBlack, -16, 12, -16, 12},
                       {ItemKind::kTnt, -16, 12, -16, 12},    {ItemKind::kPower, -16, 12, -16, 12}};
@@ -40,68 +35,59 @@ std::string Eat(Field& field, ItemKind kind, int snake = kPlayer) {
          (item.At() == kHead ? " here" : " elsewhere") + (item.Collected ? " collected" : "");
 }
 
-struct Meal {
-  ItemKind kind;
-  std::function<void(Field&)> set;
-  int eater;
-  std::string told;
-};
-void ExpectMeals(const std::vector<Meal>& meals) {
-  for (const auto& [kind, set, eater, told] : meals) {
+TEST(EatItems, EveryKindHasItsEffect) {
+  constexpr auto kPlain = [](Field&) {};
+  constexpr auto kSpeedOption = [](Field& field) { field.state.settings.IncSpeed = true; };
+  constexpr auto kMatch = [](Field& field) {
+    field.state.mode.GameMode = GameMode::kDeathmatch;
+    field.Player().BlueEaten = 19;
+  };
+  constexpr auto kSlow = [](Field& field) {
+    field.state.timers.SetInterval(field.state.timers.iWait(0), 10);
+    field.state.level.HideCollected = true;
+    field.Draws([](Rnd r) { return r.Below(2) == 1 && r.Below(150) == 50 && r.Below(6) == 0; });
+  };
+  constexpr auto kRob = [](Field& field) {
+    field.state.level.HideCollected = true;
+    field.Draws([](Rnd r) { return r.Below(2) == 0 && r.Below(50) == 49; });
+  };
+  using Row = std::tuple<ItemKind, int, void (*)(Field&), std::string>;
+  using enum ItemKind;
+  const std::string collect = "[\\snd\\collect.wav 1] ";
+  const std::string live = "[\\snd\\live.wav 1] ";
+  const Row rows[] = {
+      {kYellow, 2, kPlain,
+       "2.Length=2 2.Score=10 2.YellowEaten=1 [\\snd\\collect.wav 2] shown elsewhere"},
+      {kRed, 1, kSpeedOption,
+       "1.Length=2 1.RedEaten=1 1.Score=30 PrevInterval=100 " + collect +
+           "\"You got 30 points.\" shown elsewhere"},
+      {kRed, 2, kSpeedOption,
+       "2.Length=2 2.RedEaten=1 2.Score=30 PrevInterval=100 shown elsewhere"},
+      {kBlack, 1, kSlow,
+       "1.BlackEaten=1 1.Interval=150 1.Timer=150 PrevInterval=100 ResetSpeed=4000 " + collect +
+           "\"You are now 50% slower\" \"for 4 seconds\" hidden here collected"},
+      {kBlack, 1, kRob,
+       "1.BlackEaten=1 1.Score=-59 " + collect + "\"You lost 59 points!\" hidden here collected"},
+      {kBlue, 1, [](Field& field) { field.Player().BlueEaten = 10; },
+       "1.BlueEaten=11 1.Grow=1 1.Score=60 " + collect + "hidden elsewhere"},
+      {kBlue, 1, [](Field& field) { field.Player().BlueEaten = 9; },
+       "1.BlueEaten=10 1.Grow=1 1.Lives=4 1.Score=60 " + collect + live + live +
+           "\"You receive a new live!\" hidden elsewhere"},
+      {kBlue, 1, kMatch,
+       "1.BlueEaten=20 1.Frags=1 1.Grow=1 1.Score=60 " + collect + live +
+           "\"Ann got another frag! (10xBlue)\" hidden elsewhere"},
+      {kTnt, 1, kPlain,
+       "1.TNT=1 " + collect + "\"You got TNT, now you can blow walls!\" hidden elsewhere"},
+      {kPower, 1, [](Field& field) { field.Player().ImmortalSecs = 3; },
+       "1.Immortal=1 1.ImmortalSecs=23 1.PowerEaten=1 1.Score=-100 " + collect +
+           "\"Ann has Atomic Power and is immortal for 23 seconds!\" hidden elsewhere"},
+      {kPower, 1, kMatch, " shown here"},
+      {kPower, 1, [](Field& field) { field.state.mode.GodMode = true; }, " shown here"}};
+  for (const auto& [kind, eater, set, told] : rows) {
     Field field;
     set(field);
     EXPECT_EQ(Eat(field, kind, eater), told);
   }
-}
-
-constexpr auto kPlain = [](Field&) {};
-constexpr auto kMatch = [](Field& field) {
-  field.state.mode.GameMode = GameMode::kDeathmatch;
-  field.Player().BlueEaten = 19;
-};
-constexpr auto kGod = [](Field& field) { field.state.mode.GodMode = true; };
-constexpr auto kSpeedOption = [](Field& field) { field.state.settings.IncSpeed = true; };
-constexpr auto kSlow = [](Field& field) {
-  field.state.timers.SetInterval(field.state.timers.iWait(0), 10);
-  field.state.level.HideCollected = true;
-  field.Draws([](Rnd r) { return r.Below(2) == 1 && r.Below(150) == 50 && r.Below(6) == 0; });
-};
-constexpr auto kRob = [](Field& field) {
-  field.state.level.HideCollected = true;
-  field.Draws([](Rnd rnd) { return rnd.Below(2) == 0 && rnd.Below(50) == 49; });
-};
-
-TEST(EatItems, EveryKindHasItsEffect) {
-  ExpectMeals({
-      {ItemKind::kYellow, kPlain, 2,
-       "2.Length=2 2.Score=10 2.YellowEaten=1 [\\snd\\collect.wav 2] shown elsewhere"},
-      {ItemKind::kRed, kSpeedOption, 1,
-       "1.Length=2 1.RedEaten=1 1.Score=30 PrevInterval=100 [\\snd\\collect.wav 1] "
-       "\"You got 30 points.\" shown elsewhere"},
-      {ItemKind::kRed, kSpeedOption, 2,
-       "2.Length=2 2.RedEaten=1 2.Score=30 PrevInterval=100 shown elsewhere"},
-      {ItemKind::kBlack, kSlow, 1,
-       "1.BlackEaten=1 1.Interval=150 1.Timer=150 PrevInterval=100 ResetSpeed=4000 "
-       "[\\snd\\collect.wav 1] \"You are now 50% slower\" \"for 4 seconds\" hidden here collected"},
-      {ItemKind::kBlack, kRob, 1,
-       "1.BlackEaten=1 1.Score=-59 [\\snd\\collect.wav 1] \"You lost 59 points!\" "
-       "hidden here collected"},
-      {ItemKind::kBlue, [](Field& field) { field.Player().BlueEaten = 10; }, 1,
-       "1.BlueEaten=11 1.Grow=1 1.Score=60 [\\snd\\collect.wav 1] hidden elsewhere"},
-      {ItemKind::kBlue, [](Field& field) { field.Player().BlueEaten = 9; }, 1,
-       "1.BlueEaten=10 1.Grow=1 1.Lives=4 1.Score=60 [\\snd\\collect.wav 1] [\\snd\\live.wav 1] "
-       "[\\snd\\live.wav 1] \"You receive a new live!\" hidden elsewhere"},
-      {ItemKind::kBlue, kMatch, 1,
-       "1.BlueEaten=20 1.Frags=1 1.Grow=1 1.Score=60 [\\snd\\collect.wav 1] [\\snd\\live.wav 1] "
-       "\"Ann got another frag! (10xBlue)\" hidden elsewhere"},
-      {ItemKind::kTnt, kPlain, 1,
-       "1.TNT=1 [\\snd\\collect.wav 1] \"You got TNT, now you can blow walls!\" hidden elsewhere"},
-      {ItemKind::kPower, [](Field& field) { field.Player().ImmortalSecs = 3; }, 1,
-       "1.Immortal=1 1.ImmortalSecs=23 1.PowerEaten=1 1.Score=-100 [\\snd\\collect.wav 1] "
-       "\"Ann has Atomic Power and is immortal for 23 seconds!\" hidden elsewhere"},
-      {ItemKind::kPower, kMatch, 1, " shown here"},
-      {ItemKind::kPower, kGod, 1, " shown here"},
-  });
 }
 
 TEST(EatItems, YellowFreesItsSpawnPointAndBringsTheFirstRed) {
@@ -121,22 +107,8 @@ TEST(EatItems, YellowFreesItsSpawnPointAndBringsTheFirstRed) {
   }
 }
 
-TEST(EatItems, HiddenItemsStayWhereTheyWereEaten) {
-  for (const ItemKind kind :
-       {ItemKind::kYellow, ItemKind::kRed, ItemKind::kBlue, ItemKind::kBlack}) {
-    Field field;
-    field.state.level.HideCollected = true;
-    EXPECT_THAT(Eat(field, kind), EndsWith(" hidden here collected"));
-  }
-}
-
 TEST(EatItems, RedSpeedsUpByThePeriodOfTheTimer) {
-  struct Row {
-    int timer, base, cut;
-    bool keeps;
-    int interval;
-    std::string feed;
-  };
+  using Row = std::tuple<int, int, int, bool, int, std::string>;
   const Row rows[] = {{100, 100, 20, false, 80, "\"You are now 20% faster for 7 seconds\" "},
                       {100, 100, 20, true, 80, "\"You are now 20% faster\" "},
                       {100, 100, 10, false, 90, ""},

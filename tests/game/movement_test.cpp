@@ -9,9 +9,7 @@ namespace coilrun {
 namespace {
 
 TEST(TurnPlayer, TakesEveryDirectionButTheReverse) {
-  struct Row {
-    Dir dir, asked, taken;
-  };
+  using Row = std::tuple<Dir, Dir, Dir>;
   const Row rows[] = {{Dir::kLeft, Dir::kRight, Dir::kLeft}, {Dir::kRight, Dir::kLeft, Dir::kRight},
                       {Dir::kForw, Dir::kBack, Dir::kForw},  {Dir::kBack, Dir::kForw, Dir::kBack},
                       {Dir::kLeft, Dir::kForw, Dir::kForw},  {Dir::kLeft, Dir::kLeft, Dir::kLeft},

@@ -54,11 +54,7 @@ std::string Complete(Field& field) {
 }
 
 TEST(NextLevel, AddsScoreAndTimeBonusAndLoadsTheNext) {
-  struct Row {
-    double timeout, lowest;
-    std::vector<std::string> more;
-    std::string total;
-  };
+  using Row = std::tuple<double, double, std::vector<std::string>, std::string>;
   const std::string record = " This is a new High Score!";
   const Row rows[] = {{120, 1319, {"260 Time Bonus: 20 pts", "275" + record}, "1320"},
                       {120, 1320, {"260 Time Bonus: 20 pts"}, "1320"},
@@ -111,14 +107,7 @@ TEST(NextLevel, ACheatedGameEntersNothing) {
 }
 
 TEST(CheckTimeLimit, RespawnsWithoutADeath) {
-  struct Row {
-    double timeout;
-    int elapsed;
-    bool timePass;
-    int lives;
-    std::string told;
-    std::vector<WaitOverlay> overlays;
-  };
+  using Row = std::tuple<double, int, bool, int, std::string, std::vector<WaitOverlay>>;
   const std::string start = "1.At=100,100 1.Dir=none ";
   const std::string respawn =
       start + "1.Lives=2 1.NextDir=none ElapsedSecs=0 WaitingForStart=1 lvlTime=1";

@@ -39,11 +39,7 @@ TEST(TickSecond, TheSpeedOptionStepsEverySecondTickDownToTheLimit) {
 }
 
 TEST(SpeedReset, GivesTheNormalPeriodBack) {
-  struct Row {
-    bool keeps, option, hides;
-    int interval;
-    bool red;
-  };
+  using Row = std::tuple<bool, bool, bool, int, bool>;
   const Row rows[] = {{false, false, false, 100, true},
                       {false, false, true, 100, false},
                       {false, true, false, 80, true},

@@ -20,9 +20,7 @@ TEST(WallCheck, TouchIsLopsided) {
 }
 
 TEST(WallCheck, OneChargeBlowsTwoAndTheThirdKills) {
-  struct Row {
-    int tnt, walls, left, standing, deaths;
-  };
+  using Row = std::tuple<int, int, int, int, int>;
   const Row rows[] = {{0, 1, 0, 1, 1}, {1, 1, 0, 0, 0}, {1, 2, 0, 0, 0},
                       {1, 3, 0, 1, 1}, {2, 3, 0, 0, 0}, {3, 4, 1, 0, 0}};
   for (const auto& [tnt, walls, left, standing, deaths] : rows) {
@@ -51,12 +49,7 @@ TEST(WallCheck, GodsAndImmortalsPass) {
 }
 
 TEST(WallCheck, UserWallsByType) {
-  struct Row {
-    std::string type;
-    bool present;
-    int tnt, deaths, left;
-    bool stands;
-  };
+  using Row = std::tuple<std::string, bool, int, int, int, bool>;
   const Row rows[] = {{"wall", true, 1, 0, 0, false},
                       {"ani_wall", true, 0, 1, 0, true},
                       {"wall", false, 0, 0, 0, false},

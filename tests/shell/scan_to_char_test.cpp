@@ -1,18 +1,15 @@
 #include "shell/scan_to_char.h"
 
+#include <tuple>
+
 #include <gtest/gtest.h>
 
 namespace coilrun {
 namespace {
 
 TEST(ScanToChar, FollowsBothLayouts) {
-  struct KeyCase {
-    int code;
-    bool shift;
-    const char* layout;
-    const char* character;
-  };
-  const KeyCase cases[] = {
+  using Row = std::tuple<int, bool, const char*, const char*>;
+  const Row rows[] = {
       {57, false, "US", " "},   {57, true, "DE", " "},     {2, true, "DE", "!"},
       {2, true, "US", "!"},     {3, true, "US", "@"},      {3, true, "DE", "\""},
       {21, false, "US", "y"},   {21, false, "DE", "z"},    {44, false, "DE", "y"},
@@ -23,9 +20,9 @@ TEST(ScanToChar, FollowsBothLayouts) {
       {39, false, "FR", ";"},   {28, false, "US", ""},     {1, false, "US", ""},
       {42, true, "US", ""},     {58, false, "US", ""},     {-1, false, "US", ""},
       {41, false, "US", ""}};
-  for (const KeyCase& given : cases) {
-    EXPECT_EQ(ScanToChar(given.code, given.shift, given.layout), given.character)
-        << given.layout << ' ' << given.code << (given.shift ? " shifted" : "");
+  for (const auto& [code, shift, layout, character] : rows) {
+    EXPECT_EQ(ScanToChar(code, shift, layout), character)
+        << layout << ' ' << code << (shift ? " shifted" : "");
   }
 }
 

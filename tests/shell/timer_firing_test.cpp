@@ -63,17 +63,6 @@ TEST(Timers, FireInOrderAndWaitWithWhatAHandlerSwitchesOn) {
   EXPECT_FALSE(timers.ResetSpeed.Enabled);
 }
 
-TEST(Timers, AStepTimerThatFiredTwiceBetweenTwoPassesIsDueOnce) {
-  Clockwork clock;
-  Timers& timers = clock.state.timers;
-  timers.SetInterval(timers.iWait(0), 100);
-  timers.Start(timers.iWait(0));
-  clock.YieldAt(350);
-  EXPECT_FALSE(timers.iWait(0).Enabled);
-  clock.YieldAt(400);
-  EXPECT_FALSE(timers.iWait(0).Enabled);
-}
-
 TEST(Timers, EvenStepsKeepTheirPaceOnADisplayThatDoesNotDivideIt) {
   Clockwork clock;
   Timers& timers = clock.state.timers;
