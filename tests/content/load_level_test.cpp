@@ -28,16 +28,20 @@ class LoadLevelTest : public testing::Test {
     stage.files.Put(kPath, text);
     LoadLevel(stage.context, kPath);
   }
-  /// The level's own words and numbers, as text.
+  /// The level's own words and numbers and the player, as text.
   std::string Properties() const {
     const LevelState& level = state.level;
+    const SnakeRec& player = state.Snakes(1);
     std::ostringstream text;
     text << level.lvlName << ", then " << level.nextLvl << "; music " << level.MusicFile << "; "
          << level.Timeout << " s; needs " << level.reqYellow << " yellow, " << level.reqRed
          << " red, " << level.reqScore << " points; blue " << level.blueRate << "; speed to "
          << state.settings.MaxSpeed << ", rising " << state.settings.IncSpeed << "; open "
          << level.hasOpenWalls << ", red " << level.UsesRed << ", power " << level.UsesPower
-         << "; starts " << level.MapSnakeCount;
+         << "; starts " << level.MapSnakeCount << "; player at " << player.X << ',' << player.Y
+         << " from " << player.StartX << ',' << player.StartY << ", total " << player.TotalScore
+         << ", lives " << player.Lives << ", score " << player.Score << ", TNT " << player.TNT
+         << ", length " << player.Length << ", immortal " << player.Immortal;
     return text.str();
   }
   bool Failed() const {
@@ -62,11 +66,10 @@ TEST_F(LoadLevelTest, PutsMapAndKeysIntoTheState) {
   EXPECT_TRUE(Loaded());
   EXPECT_EQ(Properties(),
             "Yard, then .\\lvl\\lvl2.dat; music .\\music\\m.ogg; 90 s; needs 5 yellow, 0 red, 70 "
-            "points; blue 7.5; speed to 12.5, rising 1; open 1, red 0, power 1; starts 1");
+            "points; blue 7.5; speed to 12.5, rising 1; open 1, red 0, power 1; starts 1; player "
+            "at 0,0 from 30,10, total 0, lives 0, score 0, TNT 0, length 1, immortal 0");
   EXPECT_EQ(state.numWalls, 1);
   EXPECT_EQ(state.Walls(1).At(), (Point{20, 20}));
-  EXPECT_EQ(state.Snakes(1).StartX, 30);
-  EXPECT_EQ(state.Snakes(1).StartY, 10);
   EXPECT_EQ(state.numSpawnPoints, 1);
   EXPECT_EQ(state.numUserItems, 1);
   EXPECT_EQ(state.UserItems(1).Name, "A");
@@ -97,35 +100,29 @@ TEST_F(LoadLevelTest, KeepsAndResetsWhatTheLevelBeforeLeft) {
   EXPECT_TRUE(Loaded());
   EXPECT_EQ(Properties(),
             "One, then .\\lvl\\lvl9.dat; music ; 0 s; needs 0 yellow, 0 red, 0 points; blue 40; "
-            "speed to 30, rising 0; open 0, red 0, power 0; starts 1");
+            "speed to 30, rising 0; open 0, red 0, power 0; starts 1; player at 30,10 from 10,10, "
+            "total 500, lives 2, score 0, TNT 0, length 1, immortal 1")
+      << "the head waits on the start of the level before";
   EXPECT_FALSE(state.Walls(1).Present || state.SpawnPoints(1).Present);
   EXPECT_FALSE(state.Items(ItemKind::kPower)(1).Present);
   EXPECT_TRUE(state.Items(ItemKind::kRed)(5).Present);
-  EXPECT_EQ(player.TotalScore, 500);
-  EXPECT_EQ(player.Lives, 2);
-  EXPECT_EQ(player.Score, 0);
-  EXPECT_EQ(player.TNT, 0);
-  EXPECT_EQ(player.Length, 1);
-  EXPECT_TRUE(player.Immortal);
-  EXPECT_EQ(player.Head(), (Point{30, 10})) << "the head waits on the start of the level before";
-  EXPECT_EQ(player.StartX, 10);
   EXPECT_EQ(state.level.ElapsedSecs, 0);
   EXPECT_FALSE(state.shell.lvlTime);
 }
 
 TEST_F(LoadLevelTest, EndsEveryFaultInTheMenus) {
-  const std::vector<std::string> faults = {"numRed=40000",
-                                           "Timeout=",
-                                           "increase=maybe",
-                                           "set:",
-                                           "AIS=32767",
-                                           "numYellow=301",
-                                           "numPower=301",
-                                           Repeated(22, Repeated(31, "| ") + ".\n"),
-                                           Repeated(22, Repeated(31, "a ") + ".\n"),
-                                           Repeated(22, Repeated(14, "* ") + ".\n"),
-                                           Repeated(33, "Requires=a.zip\n"),
-                                           std::string("| .\n\0\xFF\nnumTNT=99999", 20)};
+  const std::string faults[] = {"numRed=40000",
+                                "Timeout=",
+                                "increase=maybe",
+                                "set:",
+                                "AIS=32767",
+                                "numYellow=301",
+                                "numPower=301",
+                                Repeated(22, Repeated(31, "| ") + ".\n"),
+                                Repeated(22, Repeated(31, "a ") + ".\n"),
+                                Repeated(22, Repeated(14, "* ") + ".\n"),
+                                Repeated(33, "Requires=a.zip\n"),
+                                std::string("| .\n\0\xFF\nnumTNT=99999", 20)};
   for (const std::string& text : faults) {
     state.shell = {};
     state.shell.LevelIntroPending = true;
@@ -173,7 +170,7 @@ TEST_F(LoadLevelTest, CountsSnakesByKeySwitchAndMap) {
     state.mode.AiCount = switchCount;
     state.timers.iWait(1).Enabled = false;
     Load(text);
-    EXPECT_TRUE(Loaded());
+    EXPECT_TRUE(Loaded()) << text << switchCount;
     EXPECT_EQ(state.mode.NumSnakes, snakes) << text << switchCount;
     EXPECT_EQ(state.timers.iWait(1).Enabled, snakes > 1) << text;
   }
@@ -194,7 +191,7 @@ TEST_F(LoadLevelTest, SetsTheMatchLimitOnlyWhenItHasNone) {
     state.mode.MatchLimit = before;
     state.mode.HuntingMode = hunting;
     Load("S .");
-    EXPECT_EQ(state.mode.MatchLimit, after);
+    EXPECT_EQ(state.mode.MatchLimit, after) << before << hunting;
   }
 }
 

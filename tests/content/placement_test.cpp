@@ -60,9 +60,10 @@ TEST(PlaceItem, TakesTheFirstFreePointDuringPlayAndPassesNewOnesOnce) {
     State state;
     AddSpawnPoints(state, before);
     EXPECT_TRUE(PlaceItem(state, ItemKind::kBlack, 7, false));
-    EXPECT_EQ(state.Items(ItemKind::kBlack)(7).SpawnPoint, placedOn);
+    EXPECT_EQ(state.Items(ItemKind::kBlack)(7).SpawnPoint, placedOn) << before[0] << before[1];
     for (std::size_t i = 0; i < after.size(); ++i) {
-      EXPECT_EQ(state.SpawnPoints(static_cast<int>(i) + 1).State, after[i]);
+      EXPECT_EQ(state.SpawnPoints(static_cast<int>(i) + 1).State, after[i])
+          << before[0] << before[1];
     }
   }
 }

@@ -55,7 +55,8 @@ TEST(ColChk, BodiesKillByOverlapFromTheSecondCellOn) {
       field.Body(owner, {first, second});
       set(field);
       ColChk(field.game);
-      EXPECT_EQ(field.Player().Deaths, dies ? 1 : 0) << second.x << "," << second.y;
+      EXPECT_EQ(field.Player().Deaths, dies ? 1 : 0)
+          << first.x << " " << second.x << "," << second.y << " of " << owner;
     }
   }
 }
@@ -75,11 +76,11 @@ TEST(ColChk, AKillCountsTheVictimsLengthAfterItsRespawn) {
     field.Put(victim, {200, 200}).Length = 40;
     field.Body(1, {{380, 400}, {200, 200}});
     ColChk(field.game);
-    EXPECT_EQ(field.Snake(victim).Deaths, 1);
-    EXPECT_EQ(field.Snake(victim).Length, 1);
-    EXPECT_EQ(field.Player().Frags, frags);
-    EXPECT_EQ(field.Player().Score, score);
-    EXPECT_EQ(field.Player().Grow, grow);
+    EXPECT_EQ(field.Snake(victim).Deaths, 1) << Word(mode) << victim;
+    EXPECT_EQ(field.Snake(victim).Length, 1) << Word(mode) << victim;
+    EXPECT_EQ(field.Player().Frags, frags) << Word(mode) << victim;
+    EXPECT_EQ(field.Player().Score, score) << Word(mode) << victim;
+    EXPECT_EQ(field.Player().Grow, grow) << Word(mode) << victim;
   }
 }
 

@@ -20,7 +20,8 @@ TEST(EatItems, EveryKindHasItsReach) {
       EatItems(field.game, kPlayer);
       return !field.host.calls.empty();
     };
-    EXPECT_TRUE(eaten(minX, 0) && eaten(maxX, 0) && eaten(0, minY) && eaten(0, maxY));
+    EXPECT_TRUE(eaten(minX, 0) && eaten(maxX, 0)) << static_cast<int>(kind);
+    EXPECT_TRUE(eaten(0, minY) && eaten(0, maxY)) << static_cast<int>(kind);
     EXPECT_FALSE(eaten(minX - 1, 0) || eaten(maxX + 1, 0)) << static_cast<int>(kind);
     EXPECT_FALSE(eaten(0, minY - 1) || eaten(0, maxY + 1)) << static_cast<int>(kind);
   }
@@ -86,7 +87,7 @@ TEST(EatItems, EveryKindHasItsEffect) {
   for (const auto& [kind, eater, set, told] : rows) {
     Field field;
     set(field);
-    EXPECT_EQ(Eat(field, kind, eater), told);
+    EXPECT_EQ(Eat(field, kind, eater), told) << (field.state.mode.GodMode ? "a god" : "");
   }
 }
 

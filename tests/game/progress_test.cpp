@@ -35,8 +35,8 @@ TEST(LevelComplete, MatchesCountFragsOrLength) {
   field.Snake(4).Length = 5;
   for (const bool hunting : {false, true}) {
     field.state.mode.HuntingMode = hunting;
-    EXPECT_EQ(LevelComplete(field.state, 3), !hunting);
-    EXPECT_EQ(LevelComplete(field.state, 4), hunting);
+    EXPECT_EQ(LevelComplete(field.state, 3), !hunting) << hunting;
+    EXPECT_EQ(LevelComplete(field.state, 4), hunting) << hunting;
   }
 }
 

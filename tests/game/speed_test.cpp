@@ -57,8 +57,8 @@ TEST(SpeedReset, GivesTheNormalPeriodBack) {
     first.Present = false;
     field.Draws([](Rnd rnd) { return rnd.Below(5) == 2; });
     SpeedReset(field.state);
-    EXPECT_EQ(timers.iWait(0).Interval, interval);
-    EXPECT_EQ(first.Present, red);
+    EXPECT_EQ(timers.iWait(0).Interval, interval) << keeps << option << hides;
+    EXPECT_EQ(first.Present, red) << keeps << option << hides;
     EXPECT_FALSE(timers.ResetSpeed.Enabled);
   }
 }

@@ -29,8 +29,8 @@ TEST(WallCheck, OneChargeBlowsTwoAndTheThirdKills) {
     for (int wall = 0; wall < walls; ++wall) field.Walls({{kHead.x + 4 * wall, kHead.y}});
     WallCheck(field.game);
     EXPECT_EQ(field.Player().TNT, left) << tnt << " charges, " << walls << " walls";
-    EXPECT_EQ(field.StandingWalls(), standing);
-    EXPECT_EQ(field.Player().Deaths, deaths);
+    EXPECT_EQ(field.StandingWalls(), standing) << tnt << " charges, " << walls << " walls";
+    EXPECT_EQ(field.Player().Deaths, deaths) << tnt << " charges, " << walls << " walls";
   }
 }
 
@@ -43,7 +43,7 @@ TEST(WallCheck, GodsAndImmortalsPass) {
     field.Player().Immortal = true;
     field.state.mode.GodMode = god;
     WallCheck(field.game);
-    EXPECT_EQ(field.StandingWalls(), 1);
+    EXPECT_EQ(field.StandingWalls(), 1) << god;
     EXPECT_EQ(field.Snake(2).Deaths, god ? 0 : 1) << "others are checked as usual";
   }
 }
@@ -63,7 +63,7 @@ TEST(WallCheck, UserWallsByType) {
     const UserItemRec& item = field.UserWall(kHead, type, present);
     field.state.level.UserItemsUsed = false;
     WallCheck(field.game);
-    EXPECT_EQ(field.Player().Deaths, 0) << "without pictures nothing counts";
+    EXPECT_EQ(field.Player().Deaths, 0) << type << " without pictures";
     EXPECT_EQ(item.Present, present) << type;
     field.state.level.UserItemsUsed = true;
     WallCheck(field.game);
