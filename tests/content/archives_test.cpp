@@ -18,8 +18,11 @@ class ArchivesTest : public testing::Test {
     stage.archive.archives[kArchive] = {{"gfx"}, {"gfx\\a.bmp", "A"}, {"gfx\\b.bmp", "B"}};
     state.feed.LoadTotal = 4;
   }
-  UnpackResult Unpack() {
-    return SnUnextractFile(stage.context, kArchive, ".\\", kArchivePassword);
+  std::string Unpack(const std::string& folder = ".\\") {
+    const auto result = SnUnextractFile(stage.context, kArchive, folder, kArchivePassword);
+    return result.opened ? std::to_string(result.processed) + " unpacked, " +
+                               std::to_string(result.refused) + " refused"
+                         : "not opened";
   }
 
   ContentStage stage;
@@ -27,10 +30,7 @@ class ArchivesTest : public testing::Test {
 };
 
 TEST_F(ArchivesTest, UnpacksAllAndListsTheFiles) {
-  const UnpackResult result = Unpack();
-  EXPECT_TRUE(result.opened);
-  EXPECT_EQ(result.processed, 3);
-  EXPECT_EQ(result.refused, 0);
+  EXPECT_EQ(Unpack(), "3 unpacked, 0 refused");
   EXPECT_EQ(stage.files.Text(".\\gfx\\b.bmp"), "B");
   EXPECT_EQ(stage.files.Text(kList), "/game\\gfx\\a.bmp\r\n/game\\gfx\\b.bmp\r\n");
   EXPECT_EQ(state.feed.UnpackedCount, 3);
@@ -53,7 +53,7 @@ TEST_F(ArchivesTest, PassesOverFilesThatExistButListsThem) {
 
 TEST_F(ArchivesTest, DoesNothingWithoutAnArchive) {
   stage.archive.archives.clear();
-  EXPECT_FALSE(Unpack().opened);
+  EXPECT_EQ(Unpack(), "not opened");
   EXPECT_FALSE(stage.files.Exists(kList));
   EXPECT_FALSE(state.feed.introVisible);
 }
@@ -61,9 +61,7 @@ TEST_F(ArchivesTest, DoesNothingWithoutAnArchive) {
 TEST_F(ArchivesTest, NeitherListsNorCountsWhatItCannotUnpack) {
   stage.archive.archives[kArchive] = {
       {"good.bmp", "1"}, {"bad.bmp", "", true}, {std::string("cut.bmp\0tail", 12), "2"}};
-  const UnpackResult result = Unpack();
-  EXPECT_EQ(result.processed, 2);
-  EXPECT_EQ(result.refused, 1);
+  EXPECT_EQ(Unpack(), "2 unpacked, 1 refused");
   EXPECT_EQ(stage.files.Text(kList), "/game\\good.bmp\r\n/game\\cut.bmp\r\n");
 }
 
@@ -77,9 +75,7 @@ TEST_F(ArchivesTest, RefusesNamesThatLeaveTheFolderOrTheLine) {
                                       {"a.bmp\r\n.\\lvl\\lvl1.dat", "x"},
                                       {"", "x"},
                                       {"..", "x"}};
-  const UnpackResult result = SnUnextractFile(stage.context, kArchive, ".\\gfx\\", "");
-  EXPECT_EQ(result.processed, 0);
-  EXPECT_EQ(result.refused, 8);
+  EXPECT_EQ(Unpack(".\\gfx\\"), "0 unpacked, 8 refused");
   EXPECT_EQ(stage.files.Text(kList), "");
   CleanUpFiles(stage.context);
   EXPECT_EQ(stage.files.contents.size(), 1U) << "only the level is left";

@@ -10,6 +10,13 @@
 namespace coilrun {
 namespace {
 
+std::string Told(const ModelPack& pack) {
+  std::ostringstream text;
+  text << pack.File << ' ' << pack.Dir << ' ' << pack.Name << " by " << pack.Author << ' '
+       << pack.Edges << pack.EdgesInverse << pack.TailEdges;
+  return text.str();
+}
+
 TEST(ModelIni, ChangesOnlyWhatItsLinesSay) {
   using Row = std::pair<const char*, const char*>;
   const Row rows[] = {{"", "Old by Me 100"},
@@ -22,10 +29,7 @@ TEST(ModelIni, ChangesOnlyWhatItsLinesSay) {
   for (const auto& [text, expected] : rows) {
     ModelPack pack = {"f", "d", "Old", "Me", true, false, false};
     ReadModelIni(text, pack);
-    std::ostringstream read;
-    read << pack.Name << " by " << pack.Author << ' ' << pack.Edges << pack.EdgesInverse
-         << pack.TailEdges;
-    EXPECT_EQ(read.str(), expected) << text;
+    EXPECT_EQ(Told(pack), std::string("f d ") + expected) << text;
   }
 }
 
@@ -50,13 +54,8 @@ TEST_F(ModelPacksTest, NumbersThePacksByName) {
   AddPack("boa", {{"boa\\start.bmp", "x"}});
   SnGetModelPacks(stage.context);
   EXPECT_EQ(state.LastModel, 1);
-  EXPECT_EQ(state.ModelPacks(0).File, "boa.smp");
-  EXPECT_EQ(state.ModelPacks(0).Name, "boa");
-  EXPECT_EQ(state.ModelPacks(0).Author, "Unknown");
-  EXPECT_TRUE(state.ModelPacks(0).TailEdges);
-  EXPECT_EQ(state.ModelPacks(1).Dir, "coral");
-  EXPECT_EQ(state.ModelPacks(1).Name, "Coral Snake");
-  EXPECT_FALSE(state.ModelPacks(1).TailEdges);
+  EXPECT_EQ(Told(state.ModelPacks(0)), "boa.smp boa boa by Unknown 101");
+  EXPECT_EQ(Told(state.ModelPacks(1)), "coral.smp coral Coral Snake by Ann 100");
   EXPECT_EQ(stage.host.models, (std::vector<int>{0, 1}));
   EXPECT_EQ(state.feed.introCaption, "Decompressing/Loading model: coral");
   EXPECT_TRUE(stage.archive.passwords.empty());
