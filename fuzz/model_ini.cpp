@@ -7,5 +7,6 @@
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   coilrun::ModelPack pack;
   coilrun::ReadModelIni(std::string(data, data + size), pack);
+  if ((pack.Name + pack.Author).find('\n') != std::string::npos) __builtin_trap();
   return 0;
 }
