@@ -24,17 +24,18 @@ std::vector<std::string> AllBelow(const fs::path& folder) {
 
 std::string ReadText(const Files& files, const std::string& path) {
   const auto bytes = files.Read(path);
-  return bytes ? std::string(bytes->begin(), bytes->end()) : "(none)";
+  return bytes ? Text(*bytes) : "(none)";
 }
 
 class DiskFilesTest : public testing::Test {
  protected:
-  DiskFiles Both(DiskFiles::Probe probe = CanWriteInto) const {
-    return {folders_.Program(), folders_.User(), probe};
-  }
-  DiskFiles ProgramOnly() const { return {folders_.Program(), std::nullopt}; }
+  DiskFiles Both(DiskFiles::Probe probe = CanWriteInto) const { return {program_, user_, probe}; }
+  DiskFiles ProgramOnly() const { return {program_, std::nullopt}; }
 
   TestFolders folders_;
+  const fs::path program_ = folders_.Program();
+  const fs::path user_ = folders_.User();
+  const fs::path outside_ = folders_.Outside();
 };
 
 bool NeverWritable(const fs::path& /*folder*/) {
@@ -42,78 +43,55 @@ bool NeverWritable(const fs::path& /*folder*/) {
 }
 
 TEST_F(DiskFilesTest, PathsThatLeadOutsideExistNowhereAndTouchNothing) {
-  Put(folders_.Outside() / "secret.txt", "secret");
+  Put(outside_ / "secret.txt", "secret");
   Put(folders_.Path() / "program2" / "secret.txt", "secret");
-  Put(folders_.Program() / "gfx" / "a.bmp");
-  fs::create_symlink(folders_.Outside(), folders_.Program() / "link");
-  fs::create_symlink(folders_.Outside() / "secret.txt", folders_.Program() / "link.txt");
-  fs::create_symlink(folders_.Outside() / "new.txt", folders_.Program() / "dangling.txt");
-  mkfifo((folders_.Program() / "pipe.txt").c_str(), 0666);
-  const std::string outside = folders_.Outside().string();
-  const std::string program = folders_.Program().string();
-  const std::string hostile[] = {
-      "",
-      "..",
-      "secret.txt",
-      "gfx\\new.txt",
-      "\\gfx\\a.bmp",
-      ".gfx\\a.bmp",
-      "..\\outside\\secret.txt",
-      ".\\..\\outside\\secret.txt",
-      "./../outside/secret.txt",
-      ".\\gfx\\..\\..\\outside/secret.txt",
-      ".\\gfx\\..\\..\\outside\\new\\new.txt",
-      ".\\.. \\outside\\secret.txt",
-      ".\\gfx\\.\\new.txt",
-      ".\\\\outside\\secret.txt",
-      ".\\gfx\\\\new.txt",
-      ".\\link\\secret.txt",
-      ".\\link\\new.txt",
-      ".\\LINK\\new\\new.txt",
-      ".\\link.txt",
-      ".\\dangling.txt",
-      ".\\pipe.txt",
-      ".\\C:\\new.txt",
-      "C:\\new.txt",
-      ".\\gfx\\a.bmp:stream",
-      ".\\gfx\\ne\nw.txt",
-      std::string(".\\gfx\\new\0.txt", 14),
-      ".\\gfx\\ne\x81w.txt",
-      outside + "\\secret.txt",
-      outside + "/secret.txt",
-      program + "\\..\\outside\\secret.txt",
-      program + "2\\secret.txt",
+  Put(program_ / "gfx" / "a.bmp");
+  fs::create_symlink(outside_, program_ / "link");
+  fs::create_symlink(outside_ / "secret.txt", program_ / "link.txt");
+  fs::create_symlink(outside_ / "new.txt", program_ / "dangling.txt");
+  mkfifo((program_ / "pipe.txt").c_str(), 0666);
+  const std::string outside = outside_.string();
+  const std::string program = program_.string();
+  const std::vector<std::vector<std::string>> hostile = {
+      {"", "secret.txt", "\\gfx\\a.bmp", ".gfx\\a.bmp", outside + "\\secret.txt"},
+      {".\\..\\outside\\secret.txt", "./gfx/../../outside/new/new.txt", ".\\.. \\outside\\new.txt"},
+      {program + "\\..\\outside\\secret.txt", program + "2\\secret.txt"},
+      {".\\gfx\\.\\new.txt", ".\\\\gfx\\a.bmp", ".\\gfx\\\\new.txt"},
+      {".\\link\\secret.txt", ".\\link\\new.txt", ".\\LINK\\new\\new.txt", ".\\link.txt"},
+      {".\\dangling.txt", ".\\pipe.txt", ".\\gfx\\a.bmp:stream", ".\\gfx\\ne\nw.txt"},
+      {std::string(".\\gfx\\new\0.txt", 14), ".\\gfx\\ne\x81w.txt"},
   };
   const auto before = AllBelow(folders_.Path());
   DiskFiles files = ProgramOnly();
 
-  for (const std::string& path : hostile) {
-    SCOPED_TRACE(path);
-    EXPECT_FALSE(files.Exists(path));
-    EXPECT_FALSE(files.Read(path));
-    EXPECT_FALSE(files.List(path, ""));
-    EXPECT_FALSE(files.Write(path, ToBytes("changed")));
-    EXPECT_FALSE(files.MakeFolder(path));
-    EXPECT_FALSE(files.Delete(path));
-  }
+  for (const auto& group : hostile)
+    for (const std::string& path : group) {
+      SCOPED_TRACE(path);
+      EXPECT_FALSE(files.Exists(path));
+      EXPECT_FALSE(files.Read(path));
+      EXPECT_FALSE(files.List(path, ""));
+      EXPECT_FALSE(files.Write(path, ToBytes("changed")));
+      EXPECT_FALSE(files.MakeFolder(path));
+      EXPECT_FALSE(files.Delete(path));
+    }
   EXPECT_EQ(AllBelow(folders_.Path()), before);
-  EXPECT_EQ(Contents(folders_.Outside() / "secret.txt"), "secret");
+  EXPECT_EQ(Contents(outside_ / "secret.txt"), "secret");
 }
 
 TEST_F(DiskFilesTest, AHardLinkedFileIsReplacedAndTheOtherNameKeepsItsContents) {
-  Put(folders_.Outside() / "shared.bmp", "old");
-  fs::create_hard_link(folders_.Outside() / "shared.bmp", folders_.Program() / "shared.bmp");
+  Put(outside_ / "shared.bmp", "old");
+  fs::create_hard_link(outside_ / "shared.bmp", program_ / "shared.bmp");
   EXPECT_TRUE(ProgramOnly().Write(".\\shared.bmp", ToBytes("new")));
-  EXPECT_EQ(Contents(folders_.Program() / "shared.bmp"), "new");
-  EXPECT_EQ(Contents(folders_.Outside() / "shared.bmp"), "old");
+  EXPECT_EQ(Contents(program_ / "shared.bmp"), "new");
+  EXPECT_EQ(Contents(outside_ / "shared.bmp"), "old");
 }
 
 TEST_F(DiskFilesTest, NamesAreFoundInAnyLetterCaseAndWithBothSeparators) {
-  Put(folders_.Program() / "Gfx" / "Menu" / "Start.BMP", "menu");
-  Put(folders_.Program() / "models" / "K\xC3\xA4se\xE2\x82\xAC.smp", "cheese");
-  Put(folders_.Program() / "same" / "A.txt", "upper");
-  Put(folders_.Program() / "same" / "a.txt", "lower");
-  fs::create_symlink("Gfx", folders_.Program() / "pictures");
+  Put(program_ / "Gfx" / "Menu" / "Start.BMP", "menu");
+  Put(program_ / "models" / "K\xC3\xA4se\xE2\x82\xAC.smp", "cheese");
+  Put(program_ / "same" / "A.txt", "upper");
+  Put(program_ / "same" / "a.txt", "lower");
+  fs::create_symlink("Gfx", program_ / "pictures");
   const DiskFiles files = Both();
   const std::pair<std::string, std::string> cases[] = {
       {".\\gfx\\menu\\start.bmp", "menu"},
@@ -122,18 +100,16 @@ TEST_F(DiskFilesTest, NamesAreFoundInAnyLetterCaseAndWithBothSeparators) {
       {".\\Models\\K\xC4SE\x80.SMP", "cheese"},
       {".\\same\\a.txt", "lower"},
       {".\\same\\A.TXT", "upper"},
-      {folders_.Program().string() + "\\gfx\\MENU\\start.bmp", "menu"},
+      {program_.string() + "\\gfx\\MENU\\start.bmp", "menu"},
       {".\\gfx\\menu", "(none)"},
       {".\\gfx\\start.bmp", "(none)"},
   };
   for (const auto& [path, contents] : cases) EXPECT_EQ(ReadText(files, path), contents) << path;
-  EXPECT_TRUE(files.Exists("."));
-  EXPECT_TRUE(files.Exists(".\\"));
-  EXPECT_TRUE(files.Exists(".\\gfx\\MENU\\"));
+  for (const char* const folder : {".", ".\\", ".\\gfx\\MENU\\"}) EXPECT_TRUE(files.Exists(folder));
 }
 
 TEST_F(DiskFilesTest, WritingKeepsExistingNamesAndMakesMissingFolders) {
-  Put(folders_.Program() / "GFX" / "Pause.bmp", "old");
+  Put(program_ / "GFX" / "Pause.bmp", "old");
   DiskFiles files = ProgramOnly();
   EXPECT_TRUE(files.Write(".\\gfx\\pause.BMP", ToBytes("new")));
   EXPECT_TRUE(files.Write(".\\gfx\\Men\xFC\\x.bmp", {}));
@@ -141,21 +117,20 @@ TEST_F(DiskFilesTest, WritingKeepsExistingNamesAndMakesMissingFolders) {
   EXPECT_FALSE(files.MakeFolder(".\\gfx\\pause.bmp"));
   EXPECT_FALSE(files.Write(".\\snd", {}));
   EXPECT_FALSE(files.Delete(".\\snd"));
-  EXPECT_THAT(AllBelow(folders_.Program()),
-              ElementsAre("GFX", "GFX/Men\xC3\xBC", "GFX/Men\xC3\xBC/x.bmp", "GFX/Pause.bmp", "Snd",
-                          "Snd/deep"));
-  EXPECT_EQ(Contents(folders_.Program() / "GFX" / "Pause.bmp"), "new");
+  EXPECT_THAT(AllBelow(program_), ElementsAre("GFX", "GFX/Men\xC3\xBC", "GFX/Men\xC3\xBC/x.bmp",
+                                              "GFX/Pause.bmp", "Snd", "Snd/deep"));
+  EXPECT_EQ(Contents(program_ / "GFX" / "Pause.bmp"), "new");
   EXPECT_TRUE(files.Delete(".\\GFX\\PAUSE.BMP"));
   EXPECT_FALSE(files.Delete(".\\GFX\\PAUSE.BMP"));
 }
 
 TEST_F(DiskFilesTest, ThePlayersFilesCoverTheProgramFolder) {
-  Put(folders_.Program() / "gfx" / "a.bmp", "program");
-  Put(folders_.Program() / "gfx" / "c.bmp", "program");
-  Put(folders_.User() / "GFX" / "A.BMP", "user");
-  Put(folders_.User() / "GFX" / "b.bmp", "user");
-  Put(folders_.User() / "GFX" / "b.wav", "user");
-  fs::create_directories(folders_.User() / "GFX" / "folder.bmp");
+  Put(program_ / "gfx" / "a.bmp", "program");
+  Put(program_ / "gfx" / "c.bmp", "program");
+  Put(user_ / "GFX" / "A.BMP", "user");
+  Put(user_ / "GFX" / "b.bmp", "user");
+  Put(user_ / "GFX" / "b.wav", "user");
+  fs::create_directories(user_ / "GFX" / "folder.bmp");
   const DiskFiles files = Both();
   EXPECT_EQ(ReadText(files, ".\\gfx\\a.bmp"), "user");
   EXPECT_EQ(ReadText(files, ".\\gfx\\c.bmp"), "program");
@@ -165,57 +140,57 @@ TEST_F(DiskFilesTest, ThePlayersFilesCoverTheProgramFolder) {
 }
 
 TEST_F(DiskFilesTest, AProgramFolderThatCannotBeWrittenSendsEverythingToThePlayersFolder) {
-  Put(folders_.Program() / "gfx" / "shipped.bmp", "shipped");
-  const ReadOnlyFolder program(folders_.Program());
+  Put(program_ / "gfx" / "shipped.bmp", "shipped");
+  const ReadOnlyFolder program(program_);
   DiskFiles files = Both();
   EXPECT_TRUE(files.Write(".\\gfx\\shipped.bmp", ToBytes("unpacked")));
   EXPECT_TRUE(files.MakeFolder(".\\snd"));
   EXPECT_EQ(ReadText(files, ".\\gfx\\shipped.bmp"), "unpacked");
-  EXPECT_EQ(files.FullName(".\\gfx\\x.bmp"), folders_.User().string() + "\\gfx\\x.bmp");
+  EXPECT_EQ(files.FullName(".\\gfx\\x.bmp"), user_.string() + "\\gfx\\x.bmp");
   EXPECT_EQ(ReadText(files, files.FullName(".\\gfx\\shipped.bmp")), "unpacked");
   EXPECT_TRUE(files.Delete(".\\gfx\\shipped.bmp"));
   EXPECT_EQ(ReadText(files, ".\\gfx\\shipped.bmp"), "shipped");
-  EXPECT_THAT(AllBelow(folders_.User()), ElementsAre("gfx", "snd"));
+  EXPECT_THAT(AllBelow(user_), ElementsAre("gfx", "snd"));
 }
 
 TEST_F(DiskFilesTest, TheProbeDecidesWhereWritesGoAndAFailedWriteFallsBack) {
   EXPECT_TRUE(Both(NeverWritable).Write(".\\a.txt", {}));
-  EXPECT_THAT(AllBelow(folders_.User()), ElementsAre("a.txt"));
-  EXPECT_THAT(AllBelow(folders_.Program()), ElementsAre());
+  EXPECT_THAT(AllBelow(user_), ElementsAre("a.txt"));
+  EXPECT_THAT(AllBelow(program_), ElementsAre());
 
-  Put(folders_.Program() / "snd", "a file where a folder is wanted");
+  Put(program_ / "snd", "a file where a folder is wanted");
   EXPECT_TRUE(Both().Write(".\\snd\\b.wav", {}));
-  EXPECT_THAT(AllBelow(folders_.User()), ElementsAre("a.txt", "snd", "snd/b.wav"));
+  EXPECT_THAT(AllBelow(user_), ElementsAre("a.txt", "snd", "snd/b.wav"));
 }
 
 TEST_F(DiskFilesTest, AFreshFileIsNotHiddenByAnOldOneOfThePlayer) {
-  Put(folders_.User() / "gfx" / "a.bmp", "left from a run that could not write");
+  Put(user_ / "gfx" / "a.bmp", "left from a run that could not write");
   DiskFiles files = Both();
   EXPECT_TRUE(files.Write(".\\gfx\\a.bmp", ToBytes("fresh")));
   EXPECT_EQ(ReadText(files, ".\\gfx\\a.bmp"), "fresh");
 }
 
 TEST_F(DiskFilesTest, FullNamesOfARootInsideTheOtherMeanTheInnerOne) {
-  Put(folders_.Program() / "user" / "a.txt", "inner");
-  const DiskFiles files(folders_.Program(), folders_.Program() / "user", NeverWritable);
+  Put(program_ / "user" / "a.txt", "inner");
+  const DiskFiles files(program_, program_ / "user", NeverWritable);
   EXPECT_EQ(ReadText(files, files.FullName(".\\a.txt")), "inner");
-  EXPECT_EQ(ReadText(files, (folders_.Program() / "user").string() + "\\A.TXT"), "inner");
+  EXPECT_EQ(ReadText(files, (program_ / "user").string() + "\\A.TXT"), "inner");
 }
 
 TEST_F(DiskFilesTest, FilesBeyondTheReadLimitAreNotRead) {
-  Put(folders_.Program() / "huge.dat");
-  fs::resize_file(folders_.Program() / "huge.dat", (std::uintmax_t{256} << 20U) + 1);
+  Put(program_ / "huge.dat");
+  fs::resize_file(program_ / "huge.dat", (std::uintmax_t{256} << 20U) + 1);
   const DiskFiles files = Both();
   EXPECT_TRUE(files.Exists(".\\huge.dat"));
   EXPECT_FALSE(files.Read(".\\huge.dat"));
 }
 
 TEST_F(DiskFilesTest, AMissingProgramFolderIsEmptyAndTheStartLeavesNoTrace) {
-  const DiskFiles missing(folders_.Path() / "none", folders_.User());
+  const DiskFiles missing(folders_.Path() / "none", user_);
   EXPECT_FALSE(missing.Exists(".\\lvl"));
   EXPECT_FALSE(missing.Read(".\\lvl\\lvl1.dat"));
   Both();
-  EXPECT_THAT(AllBelow(folders_.Program()), ElementsAre());
+  EXPECT_THAT(AllBelow(program_), ElementsAre());
 }
 
 }  // namespace

@@ -18,26 +18,19 @@ TEST(Folders, TheProgramFolderIsBesideTheExecutableOrInTheShareFolder) {
 TEST(Folders, APlayersFilesFollowTheDesktopsRulesOrTheOption) {
   const Surroundings plain{"/opt", "/home/kim", "", ""};
   const Surroundings moved{"/opt", "/home/kim", "/c", "/d"};
-  const Folders usual = DefaultFolders("/game", plain);
-  EXPECT_EQ(usual.settingsFile, "/home/kim/.config/coilrun/coilrun.ini");
-  EXPECT_EQ(usual.unpacked, "/home/kim/.local/share/coilrun");
-  const Folders elsewhere = DefaultFolders("/game", moved);
-  EXPECT_EQ(elsewhere.settingsFile, "/c/coilrun/coilrun.ini");
-  EXPECT_EQ(elsewhere.unpacked, "/d/coilrun");
-  const Folders given = FoldersIn("/game", "/mine");
-  EXPECT_EQ(given.settingsFile, "/mine/coilrun.ini");
-  EXPECT_EQ(given.unpacked, "/mine/data");
-}
-
-TEST(Folders, ATemporaryFolderGoesWithAllThatIsInIt) {
-  std::filesystem::path place;
-  {
-    const TemporaryFolder folder;
-    place = folder.Path();
-    Put(place / "deep" / "file.txt");
+  struct {
+    Folders folders;
+    const char *settingsFile, *unpacked;
+  } const cases[] = {
+      {DefaultFolders("/game", plain), "/home/kim/.config/coilrun/coilrun.ini",
+       "/home/kim/.local/share/coilrun"},
+      {DefaultFolders("/game", moved), "/c/coilrun/coilrun.ini", "/d/coilrun"},
+      {FoldersIn("/game", "/mine"), "/mine/coilrun.ini", "/mine/data"},
+  };
+  for (const auto& [folders, settingsFile, unpacked] : cases) {
+    EXPECT_EQ(folders.settingsFile, settingsFile);
+    EXPECT_EQ(folders.unpacked, unpacked);
   }
-  EXPECT_FALSE(place.empty());
-  EXPECT_FALSE(std::filesystem::exists(place));
 }
 
 }  // namespace

@@ -6,7 +6,6 @@
 
 #include "platform/headless/virtual_clock.h"
 #include "platform/platform.h"
-#include "platform/sound_bytes.h"
 #include "platform/support.h"
 
 namespace coilrun {

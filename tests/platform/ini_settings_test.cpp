@@ -1,7 +1,14 @@
 #include "platform/ini_settings.h"
 
+#include <array>
+#include <chrono>
+#include <csignal>
+#include <random>
+#include <thread>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/wait.h>
 
 #include "platform/support.h"
 
@@ -16,11 +23,11 @@ using testing::Optional;
 class IniSettingsTest : public testing::Test {
  protected:
   IniSettings Open() {
-    return {file_, folders_.Program() / "defaults.ini",
-            [this](const std::string& line) { reports_.push_back(line); }};
+    return {file_, defaults_, [this](const std::string& line) { reports_.push_back(line); }};
   }
 
   TestFolders folders_;
+  std::filesystem::path defaults_ = folders_.Program() / "defaults.ini";
   std::filesystem::path file_ = folders_.User() / "coilrun" / "coilrun.ini";
   std::vector<std::string> reports_;
 };
@@ -44,7 +51,7 @@ TEST_F(IniSettingsTest, EveryTextComesBackAsItWasSet) {
 }
 
 TEST_F(IniSettingsTest, ShippedDefaultsLieUnderThePlayersOwn) {
-  Put(folders_.Program() / "defaults.ini", "[Tweak]\nMinSpeed = 150\nMaxSpeed = 30\n");
+  Put(defaults_, "[Tweak]\nMinSpeed = 150\nMaxSpeed = 30\n");
   Put(file_, "[tweak]\nmaxspeed=44\n");
   IniSettings settings = Open();
   EXPECT_THAT(settings.Get("Tweak", "MinSpeed"), Optional(std::string("150")));
@@ -54,26 +61,20 @@ TEST_F(IniSettingsTest, ShippedDefaultsLieUnderThePlayersOwn) {
   EXPECT_THAT(Contents(file_), testing::Not(HasSubstr("150")));
 }
 
-TEST_F(IniSettingsTest, WhatTheGameDoesNotKnowSurvivesASave) {
-  Put(file_,
+TEST_F(IniSettingsTest, WhatTheGameDoesNotKnowSurvivesASaveAndALinkStaysALink) {
+  const auto dotfile = folders_.Outside() / "dotfiles.ini";
+  Put(dotfile,
       "\xEF\xBB\xBF; mine\r\n\r\n[Other]\r\nColour=gr\xC3\xBCn\r\n; hint\r\n[Options]\r\nX=1\r\n");
+  std::filesystem::create_directories(file_.parent_path());
+  std::filesystem::create_symlink(dotfile, file_);
   IniSettings settings = Open();
   settings.Set("Options", "Show FPS", "True");
   EXPECT_TRUE(settings.Save());
   for (const char* const part : {"; mine", "[Other]", "Colour = gr\xC3\xBCn", "; hint", "X = 1"})
-    EXPECT_THAT(Contents(file_), HasSubstr(part));
-  EXPECT_THAT(reports_, IsEmpty());
-}
-
-TEST_F(IniSettingsTest, ALinkedFileStaysALink) {
-  Put(folders_.Outside() / "dotfiles.ini", "[Options]\n");
-  std::filesystem::create_directories(file_.parent_path());
-  std::filesystem::create_symlink(folders_.Outside() / "dotfiles.ini", file_);
-  IniSettings settings = Open();
-  settings.Set("Options", "X", "1");
-  EXPECT_TRUE(settings.Save());
-  EXPECT_THAT(Contents(folders_.Outside() / "dotfiles.ini"), HasSubstr("X = 1"));
+    EXPECT_THAT(Contents(dotfile), HasSubstr(part));
+  EXPECT_THAT(Contents(dotfile), HasSubstr("Show FPS = True"));
   EXPECT_TRUE(std::filesystem::is_symlink(file_));
+  EXPECT_THAT(reports_, IsEmpty());
 }
 
 TEST_F(IniSettingsTest, ADamagedFileIsSetAsideAndToldOnce) {
@@ -84,10 +85,9 @@ TEST_F(IniSettingsTest, ADamagedFileIsSetAsideAndToldOnce) {
       "[Options]\nPlayer Name=\xC3",
       "[Options\nPlayer Name=A\n",
       "[Options]\nPlayer Na",
-      "some prose",
       std::string((1U << 20U) + 1, '\n'),
   };
-  Put(folders_.Program() / "defaults.ini", "[Options]\nPlayer Name=Default\n");
+  Put(defaults_, "[Options]\nPlayer Name=Default\n");
   int number = 0;
   for (const std::string& contents : damaged) {
     SCOPED_TRACE(++number);
@@ -113,23 +113,66 @@ TEST_F(IniSettingsTest, AFileThatCannotBeReadIsNotOverwritten) {
 }
 
 TEST_F(IniSettingsTest, AStoreThatCannotBeWrittenIsToldOnceAndStaysWhole) {
-  Put(file_, "[Options]\nX = 1\n");
-  const ReadOnlyFolder folder(file_.parent_path());
-  IniSettings settings = Open();
-  settings.Set("Options", "X", "2");
-  EXPECT_FALSE(settings.Save());
-  EXPECT_FALSE(settings.Save());
-  EXPECT_THAT(reports_, ElementsAre(HasSubstr(file_.string())));
-  EXPECT_EQ(Contents(file_), "[Options]\nX = 1\n");
+  // A damaged one cannot be set aside either.
+  for (const std::string contents : {"[Options]\nX = 1\n", "prose"}) {
+    Put(file_, contents);
+    reports_.clear();
+    const ReadOnlyFolder folder(file_.parent_path());
+    IniSettings settings = Open();
+    settings.Set("Options", "X", "2");
+    EXPECT_FALSE(settings.Save());
+    EXPECT_FALSE(settings.Save());
+    EXPECT_THAT(reports_, ElementsAre(HasSubstr(file_.string())));
+    EXPECT_EQ(Contents(file_), contents);
+  }
 }
 
-TEST_F(IniSettingsTest, ADamagedFileThatCannotBeSetAsideIsLeftAlone) {
-  Put(file_, "prose");
-  const ReadOnlyFolder folder(file_.parent_path());
-  IniSettings settings = Open();
-  EXPECT_FALSE(settings.Save());
-  EXPECT_EQ(Contents(file_), "prose");
-  EXPECT_THAT(reports_, testing::SizeIs(1));
+constexpr int kRounds = 220;
+constexpr int kKeys = 200;
+
+/// Saves stores without end; each holds one number, in all its keys. Tells when it begins.
+[[noreturn]] void SaveForever(IniSettings settings, int number, int tell) {
+  if (write(tell, "!", 1) != 1) _exit(1);
+  while (true) {
+    ++number;
+    for (int key = 0; key < kKeys; ++key)
+      settings.Set("Numbers", std::to_string(key), std::to_string(number));
+    settings.Save();
+  }
+}
+
+/// The one number of the store; -1 when its keys differ or one is missing.
+int NumberIn(const IniSettings& settings) {
+  const auto first = settings.Get("Numbers", "0");
+  for (int key = 1; key < kKeys; ++key)
+    if (settings.Get("Numbers", std::to_string(key)) != first) return -1;
+  return first ? std::stoi(*first) : 0;
+}
+
+TEST_F(IniSettingsTest, AfterEveryKillDuringSavesTheOldOrTheNewStoreIsThereWhole) {
+  std::minstd_rand random(1);
+  std::uniform_int_distribution<int> micros(0, 8'000);
+  int number = 0;
+  int roundsWithProgress = 0;
+  for (int round = 0; round < kRounds; ++round) {
+    std::array<int, 2> channel{};
+    ASSERT_EQ(pipe(channel.data()), 0);
+    const pid_t child = fork();
+    ASSERT_GE(child, 0);
+    if (child == 0) SaveForever(Open(), number, channel[1]);
+    char begun = 0;
+    ASSERT_EQ(read(channel[0], &begun, 1), 1);
+    std::this_thread::sleep_for(std::chrono::microseconds(micros(random)));
+    kill(child, SIGKILL);
+    waitpid(child, nullptr, 0);
+    for (const int end : channel) close(end);
+    const int found = NumberIn(Open());
+    ASSERT_GE(found, number) << "round " << round;
+    if (found > number) ++roundsWithProgress;
+    number = found;
+  }
+  EXPECT_GT(roundsWithProgress, 0);
+  EXPECT_THAT(reports_, IsEmpty());
 }
 
 }  // namespace

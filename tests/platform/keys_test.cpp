@@ -31,14 +31,8 @@ std::string Play(std::string_view line) {
 }
 
 TEST(KeyQueue, EachPollSeesOneChangeOfAKey) {
-  struct {
-    const char* what;
-    const char* line;
-    const char* seen;
-  } constexpr kCases[] = {
-      {"held", ".d...u..",
-       "0111"
-       "00"},
+  const std::tuple<const char*, const char*, const char*> cases[] = {
+      {"held", ".d...u..", "011100"},
       {"tapped between two polls", "du...", "100"},
       {"tapped twice between two polls", "dudu.....", "10100"},
       {"repeated by the keyboard", "dddd..u.", "110"},
@@ -47,7 +41,7 @@ TEST(KeyQueue, EachPollSeesOneChangeOfAKey) {
       {"let go by a loss of the focus", "d.L.u.d.", "1001"},
       {"pressed and lost at once", "dL..", "10"},
   };
-  for (const auto& row : kCases) EXPECT_EQ(Play(row.line), row.seen) << row.what;
+  for (const auto& [what, line, seen] : cases) EXPECT_EQ(Play(line), seen) << what;
 }
 
 TEST(KeyQueue, HammeringDoesNotPileUpAndEndsInTheTrueState) {

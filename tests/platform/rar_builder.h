@@ -5,11 +5,21 @@
 #include <string>
 #include <vector>
 
-#include "ports/bytes.h"
+#include "support.h"
 
 namespace coilrun {
 
-enum class Locked { kNothing, kContents, kHeadersToo };
+/// What made and committed archives are locked with.
+inline constexpr const char* kPassword = "sn80463";
+
+// Committed archives of all kinds, with the same three entries: of the old and the new generation;
+// locked not at all, their contents, or all.
+inline constexpr const char* kArchives = COILRUN_SOURCE_DIR "/fuzz/corpus/rar";
+inline const std::string kArchiveKinds[] = {"old_open", "old_contents", "old_headers",
+                                            "new_open", "new_contents", "new_headers"};
+inline Bytes CommittedArchive(const std::string& name) {
+  return ToBytes(Contents(std::filesystem::path(kArchives) / (name + ".rar")));
+}
 
 /// One entry of an archive to be made. `packed` is set for compressed contents.
 struct MadeEntry {
@@ -18,19 +28,16 @@ struct MadeEntry {
   std::optional<Bytes> packed{};
   bool folder = false;
   bool solid = false;
-  std::optional<std::uint64_t> claimedSize{};
-  std::optional<std::string> linkTo{};
+  bool link = false;
   bool blake = false;
+  std::optional<std::uint64_t> claimedSize{};
 };
 
-/// An archive as its program would have written it: either generation, every kind of encryption.
+/// An archive of generation 5 as its program would have written it.
 struct MadeArchive {
-  int generation = 5;
-  Locked locked = Locked::kNothing;
-  std::string password = "sn80463";
-  int exponent = 3;
-  bool checkValue = true;
   std::vector<MadeEntry> entries{};
+  bool locked = false;
+  bool checkValue = true;
 
   Bytes Write() const;
 };

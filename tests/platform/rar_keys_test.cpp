@@ -1,7 +1,5 @@
 #include "platform/rar/rar_keys.h"
 
-#include <span>
-
 #include <gtest/gtest.h>
 
 #include "platform/rar/checksums.h"
@@ -18,12 +16,12 @@ std::string Hex(std::span<const std::uint8_t> bytes) {
 }
 
 constexpr RarSalt kSalt = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16};
-constexpr char kPassword[] = "k\xC3\xA4se";
+constexpr char kUmlaut[] = "k\xC3\xA4se";
 
 // The values expected here were computed by another program, from descriptions of the methods.
 
 TEST(RarKeys, OfGenerationFive) {
-  const Rar5Keys keys = DeriveRar5Keys(kPassword, kSalt, 4);
+  const Rar5Keys keys = DeriveRar5Keys(kUmlaut, kSalt, 4);
   EXPECT_EQ(Hex(keys.cipher), "4d0a4c61f6a4c5c8dde37a108eb34f13ebbc55394c005a5f0698521905b1b23c");
   EXPECT_EQ(Hex(keys.sums), "950655a5a3c95291551969cf26b7b0d90fec35fdc62888380535ceb5bcbd41d6");
   EXPECT_EQ(Hex(keys.check), "ab3f29900dcd0186");
@@ -36,13 +34,13 @@ TEST(RarKeys, OfGenerationFour) {
   EXPECT_EQ(Hex(keys.cipher), "5550b5e45a8788f7a42155b7dad69e94");
   EXPECT_EQ(Hex(keys.iv), "6b4a94199640f4c17c72cfea2d6d82e1");
   const Rar4Keys beyondAscii =
-      DeriveRar4Keys(std::string(kPassword) + "\xF0\x9F\x90\x8D", std::nullopt);
+      DeriveRar4Keys(std::string(kUmlaut) + "\xF0\x9F\x90\x8D", std::nullopt);
   EXPECT_EQ(Hex(beyondAscii.cipher), "86de8dad362d26a47f11d70d723a8ae5");
   EXPECT_EQ(Hex(beyondAscii.iv), "020a8abc97a71ba85945b2daef108a45");
 }
 
 TEST(RarKeys, AreNotMadeWhenThatTakesForever) {
-  RarKeyRing keys(kPassword, 20'000);
+  RarKeyRing keys(kUmlaut, 20'000);
   EXPECT_FALSE(keys.Keys5(kSalt, RarKeyRing::kMaxExponent + 1));
   EXPECT_TRUE(keys.Keys5(kSalt, 10));
   EXPECT_TRUE(keys.Keys4(Rar4Salt{1}));
@@ -53,18 +51,13 @@ TEST(RarKeys, AreNotMadeWhenThatTakesForever) {
 }
 
 TEST(Blake2sp, GivesKnownSums) {
-  struct Case {
-    std::size_t size;
-    const char* sum;
+  const std::pair<std::size_t, const char*> cases[] = {
+      {0, "dd0e891776933f43c7d032b08a917e25741f8aa9a12c12e1cac8801500f2ca4f"},
+      {512, "e5c78b5cd735530b80a1377388c29164a54192ed3b1a745bce45488d1188e9bc"},
+      {513, "985dfa163dbd74d7a74a42f57144bb8dd99a0395c1953404a73c585c567b1037"},
+      {1500, "98ada8fceb03083697321062537b6d71be6fbee4dcf85c95450e88a5c2bc8b64"},
   };
-  for (const Case& each : {
-           Case{0, "dd0e891776933f43c7d032b08a917e25741f8aa9a12c12e1cac8801500f2ca4f"},
-           Case{64, "ee42f4dbc30a49b39e47acd064026ba4560f51db14ddb8f38fab1009026b4c8c"},
-           Case{512, "e5c78b5cd735530b80a1377388c29164a54192ed3b1a745bce45488d1188e9bc"},
-           Case{513, "985dfa163dbd74d7a74a42f57144bb8dd99a0395c1953404a73c585c567b1037"},
-           Case{1500, "98ada8fceb03083697321062537b6d71be6fbee4dcf85c95450e88a5c2bc8b64"},
-       })
-    EXPECT_EQ(Hex(Blake2sp(Bytes(each.size, 'a'))), each.sum) << each.size;
+  for (const auto& [size, sum] : cases) EXPECT_EQ(Hex(Blake2sp(Bytes(size, 'a'))), sum) << size;
 }
 
 }  // namespace

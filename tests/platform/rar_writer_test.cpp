@@ -10,6 +10,8 @@
 namespace coilrun {
 namespace {
 
+using ::testing::HasSubstr;
+using ::testing::Not;
 using ::testing::SizeIs;
 
 std::vector<RarSource> Sources() {
@@ -23,7 +25,7 @@ std::vector<RarSource> Sources() {
 
 TEST(RarWriter, WritesWhatTheReaderReads) {
   const auto sources = Sources();
-  for (const std::string password : {"", "sn80463", "p\xC3\xA4ssw\xC3\xB6rd"}) {
+  for (const std::string password : {"", "p\xC3\xA4ssw\xC3\xB6rd"}) {
     RarReader reader(WriteRar(sources, password), password);
     EXPECT_EQ(reader.Fault(), "");
     ASSERT_THAT(reader.Entries(), SizeIs(sources.size()));
@@ -38,9 +40,11 @@ TEST(RarWriter, WritesWhatTheReaderReads) {
   }
 }
 
-TEST(RarWriter, WritesTheSameTwiceButNoTwoVectorsAlike) {
+TEST(RarWriter, HidesContentsAlikeButNoTwoEntriesWithTheSameVector) {
   const Bytes archive = WriteRar(Sources(), "sn80463");
   EXPECT_EQ(WriteRar(Sources(), "sn80463"), archive);
+  EXPECT_THAT(Text(archive), Not(HasSubstr("aaaa")));
+  EXPECT_THAT(Text(archive), HasSubstr("gfx/a.bmp"));
 
   const RarReader reader(archive, "sn80463");
   std::set<AesBlock> vectors;
@@ -57,13 +61,6 @@ TEST(RarWriter, WritesTheSameTwiceButNoTwoVectorsAlike) {
   other[1].contents[0] ^= 1;
   const RarReader changed(WriteRar(other, "sn80463"), "sn80463");
   EXPECT_NE(changed.Entries()[1].packed.encryption5->recipe.salt, *salts.begin());
-}
-
-TEST(RarWriter, HidesContentsButNotNames) {
-  const Bytes archive = WriteRar(Sources(), "sn80463");
-  const std::string text(archive.begin(), archive.end());
-  EXPECT_EQ(text.find("aaaa"), std::string::npos);
-  EXPECT_NE(text.find("gfx/a.bmp"), std::string::npos);
 }
 
 }  // namespace

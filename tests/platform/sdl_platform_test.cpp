@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include "platform/platform.h"
-#include "platform/sound_bytes.h"
 #include "platform/support.h"
 
 namespace coilrun {

@@ -3,7 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "platform/sound_bytes.h"
+#include "platform/rar/byte_writer.h"
+#include "platform/support.h"
 
 namespace coilrun {
 namespace {
@@ -11,17 +12,16 @@ namespace {
 using testing::DoubleEq;
 using testing::Optional;
 
-constexpr std::size_t kFormatAt = 20;
-constexpr std::size_t kDataSizeAt = 40;
-constexpr std::size_t kDataAt = 44;
-
 TEST(SoundFile, WavesAreMeasuredAndBrokenOnesRefused) {
   const Bytes good = WaveOf(11'025);
   EXPECT_THAT(WaveSeconds(good), Optional(DoubleEq(0.5)));
 
+  constexpr std::size_t kFormatAt = 20;
+  constexpr std::size_t kDataSizeAt = 40;
+  constexpr std::size_t kDataAt = 44;
   Bytes withOddChunk = good;
-  const Bytes chunk = ByteLine().Text("LIST").Number(3, 4).Number(0, 4).bytes;
-  withOddChunk.insert(withOddChunk.begin() + 36, chunk.begin(), chunk.end());
+  constexpr std::string_view kChunk("LIST\3\0\0\0odd", 12);
+  withOddChunk.insert(withOddChunk.begin() + 36, kChunk.begin(), kChunk.end());
   EXPECT_THAT(WaveSeconds(withOddChunk), Optional(DoubleEq(0.5)));
 
   for (std::size_t length = 0; length < kDataAt + 1; ++length)
@@ -36,30 +36,32 @@ TEST(SoundFile, WavesAreMeasuredAndBrokenOnesRefused) {
   EXPECT_FALSE(WaveSeconds(WaveOf(0)));
 }
 
-void AddPage(ByteLine& file, std::uint64_t granule, std::uint32_t stream, const Bytes& data) {
-  file.Text("OggS").Number(0, 2).Number(granule, 8).Number(stream, 4).Number(0, 8);
-  file.Number(1, 1).Number(data.size(), 1);
-  file.bytes.insert(file.bytes.end(), data.begin(), data.end());
+void AddPage(ByteWriter& file, std::uint32_t granule, std::uint32_t stream, const Bytes& data) {
+  const std::uint32_t sign = granule == ~0U ? ~0U : 0;
+  file.Add(ToBytes(std::string("OggS\0\0", 6)));
+  for (const std::uint32_t number : {granule, sign, stream, 0U, 0U}) file.U32(number);
+  file.U8(1);
+  file.U8(data.size());
+  file.Add(data);
 }
 
 TEST(SoundFile, VorbisFilesEndAtTheLastPageOfTheirStream) {
-  const Bytes header =
-      ByteLine().Text("\x01vorbis").Number(0, 4).Number(2, 1).Number(44'100, 4).bytes;
-  ByteLine file;
-  AddPage(file, 0, 7, header);
-  const std::size_t firstPage = file.bytes.size();
+  ByteWriter file;
+  AddPage(file, 0, 7, ToBytes(std::string("\x01vorbis\0\0\0\0\2\x44\xAC\0\0", 16)));
+  const std::size_t firstPage = file.Written().size();
   AddPage(file, 44'100, 7, Bytes(200));
   AddPage(file, 66'150, 7, Bytes(200));
-  AddPage(file, ~std::uint64_t{0}, 7, Bytes(200));  // a page in which no packet ends
-  AddPage(file, 999'999, 8, Bytes(200));            // another stream
-  EXPECT_THAT(VorbisSeconds(file.bytes), Optional(DoubleEq(1.5)));
+  AddPage(file, ~0U, 7, Bytes(200));      // a page in which no packet ends
+  AddPage(file, 999'999, 8, Bytes(200));  // another stream
+  const Bytes good = file.Written();
+  EXPECT_THAT(VorbisSeconds(good), Optional(DoubleEq(1.5)));
 
   EXPECT_FALSE(VorbisSeconds({}));
-  EXPECT_FALSE(VorbisSeconds(std::span(file.bytes).first(firstPage)));
-  Bytes noVorbis = file.bytes;
+  EXPECT_FALSE(VorbisSeconds(std::span(good).first(firstPage)));
+  Bytes noVorbis = good;
   noVorbis[30] = 'V';
   EXPECT_FALSE(VorbisSeconds(noVorbis));
-  Bytes noRate = file.bytes;
+  Bytes noRate = good;
   for (std::size_t at = 40; at < 44; ++at) noRate[at] = 0;
   EXPECT_FALSE(VorbisSeconds(noRate));
 }

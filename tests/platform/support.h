@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -27,6 +28,24 @@ inline std::string Contents(const std::filesystem::path& file) {
 
 inline Bytes ToBytes(std::string_view text) {
   return {text.begin(), text.end()};
+}
+
+inline std::string Text(std::span<const std::uint8_t> bytes) {
+  return {bytes.begin(), bytes.end()};
+}
+
+/// A wave file of silence: 22050 frames a second, stereo, 16 bits.
+inline Bytes WaveOf(std::uint32_t frames) {
+  using namespace std::string_view_literals;
+  Bytes wave = ToBytes(
+      "RIFF\0\0\0\0WAVEfmt \x10\0\0\0\1\0\2\0\x22\x56\0\0\x88\x58\1\0\4\0\x10\0data\0\0\0\0"sv);
+  const std::uint32_t size = frames * 4;
+  for (std::size_t i = 0; i < 4; ++i) {
+    wave[4 + i] = static_cast<std::uint8_t>((36 + size) >> 8 * i);
+    wave[40 + i] = static_cast<std::uint8_t>(size >> 8 * i);
+  }
+  wave.resize(wave.size() + size);
+  return wave;
 }
 
 /// Makes a folder, and those in it, one that this process cannot write to, while the object lives.
