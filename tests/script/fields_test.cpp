@@ -11,7 +11,6 @@ namespace coilrun {
 namespace {
 
 using nlohmann::json;
-using nlohmann::ordered_json;
 
 json Traced(const State& state) {
   return json::parse(TraceLine(state, {1'016'667, 2.5}));
@@ -108,82 +107,40 @@ TEST(Fields, WhatIsSetIsTracedAndNothingElseChanges) {
 }
 
 TEST(Fields, RefusesWhatDoesNotFitAndLeavesTheStateAlone) {
-  struct Refused {
-    std::string_view name;
-    std::string_view value;
-  };
-  const std::vector<Refused> cases = {
-      {"", ""},
-      {".", ""},
-      {"Nonsense", "1"},
-      {"godmode", "true"},
-      {"GodMode.", "true"},
-      {"GodMode.1", "true"},
-      {"GodMode", "yes"},
-      {"GodMode", "1"},
-      {"GodMode", ""},
-      {"Snakes", "1"},
-      {"Snakes.0.X", "1"},
-      {"Snakes.17.X", "1"},
-      {"Snakes.-1.X", "1"},
-      {"Snakes.99999999999.X", "1"},
-      {"Snakes.1", "1"},
-      {"Snakes.1.", "1"},
-      {"Snakes.1.Nonsense", "1"},
-      {"Snakes.1.MusicVolume", "1"},
-      {"Snakes.1.X", "1.5"},
-      {"Snakes.1.X", "0x10"},
-      {"Snakes.1.X", "12 apples"},
-      {"Snakes.1.X", ""},
-      {"Snakes.1.X", "32768"},
-      {"Snakes.1.X", "-32769"},
-      {"Snakes.1.Score", "2147483648"},
-      {"Snakes.1.Score", "99999999999999999999"},
-      {"Snakes.1.Dir", "left"},
-      {"Snakes.1.Dir", "Up"},
-      {"Snakes.1.Length", "101"},
-      {"Snakes.1.Model", "100"},
-      {"Snakes.1.Seg.4.X", "1"},
-      {"Snakes.1.Seg.-1.X", "1"},
-      {"Snakes.2.Seg.2.X", "1"},
-      {"Yellow.0.X", "1"},
-      {"Yellow.3.X", "1"},
-      {"Walls.3.Present", "true"},
-      {"Walls.1.Kind", "brick"},
-      {"SpawnPoints.3.X", "1"},
-      {"UserItems.3.Type", "wall"},
-      {"ModelPacks.2.Name", "x"},
-      {"MsgLines.0", "x"},
-      {"MsgLines.6", "x"},
-      {"MsgLines.1.Text", "x"},
-      {"CenterLines.16.Text", "x"},
-      {"NumSnakes", "0"},
-      {"NumSnakes", "17"},
-      {"numYellow", "301"},
-      {"numWalls", "-1"},
-      {"numUserItems", "682"},
-      {"LastModel", "100"},
-      {"Timeout", "soon"},
-      {"Timeout", "inf"},
-      {"Timeout", "nan"},
-      {"Timeout", "1e999"},
-      {"Timers.iWait.16.Interval", "100"},
-      {"Timers.tmr1.Interval", "100"},
-      {"Timers.ResetSpeed.Interval", "-1"},
-      {"Timers.ResetSpeed.Enabled", "on"},
-      {"Timers.AnimFrame", "46"},
-      {"ms", "5"},
-      {"Music.Position", "5"},
-      {"Drawn.1.Text", "x"},
-      {"Sounds.1.Path", "x"},
+  using Texts = std::vector<std::string>;
+  const std::vector<std::pair<Texts, Texts>> cases = {
+      // Names that lead nowhere, not far enough or too far.
+      {{"", ".", "Nonsense", "Snakes", "Snakes.1", "Snakes.1.", "Snakes.1.Nonsense"}, {"1"}},
+      {{"godmode", "GodMode.", "GodMode.1", "Walls.3.Present"}, {"true"}},
+      {{"Snakes.0.X", "Snakes.17.X", "Snakes.-1.X", "Snakes.99999999999.X"}, {"1"}},
+      {{"Snakes.1.Seg.4.X", "Snakes.1.Seg.-1.X", "Snakes.2.Seg.2.X", "MsgLines.1.Text"}, {"1"}},
+      {{"Yellow.0.X", "Yellow.3.X", "SpawnPoints.3.X", "UserItems.3.Type"}, {"1"}},
+      {{"ModelPacks.2.Name", "MsgLines.0", "MsgLines.6", "CenterLines.16.Text"}, {"x"}},
+      {{"Timers.iWait.16.Interval", "Timers.tmr1.Interval"}, {"100"}},
+      {{"ms", "Music.Position", "Drawn.1.Text", "Sounds.1.Path"}, {"5"}},
+      // Values of the wrong kind or out of range.
+      {{"GodMode", "Timers.ResetSpeed.Enabled"}, {"yes", "1", "", "on"}},
+      {{"Snakes.1.X"}, {"1.5", "0x10", "12 apples", "", "32768", "-32769"}},
+      {{"Snakes.1.Score"}, {"2147483648", "99999999999999999999"}},
+      {{"Snakes.1.Dir", "Walls.1.Kind"}, {"left", "Up", "brick"}},
+      {{"Snakes.1.Length", "Snakes.1.Model"}, {"101", "-1"}},
+      {{"NumSnakes"}, {"0", "17"}},
+      {{"numYellow", "numWalls", "numUserItems", "Timers.AnimFrame"}, {"-1", "682"}},
+      {{"numYellow"}, {"301"}},
+      {{"LastModel", "Snakes.1.Model"}, {"100"}},
+      {{"Timers.AnimFrame"}, {"46"}},
+      {{"Timeout"}, {"soon", "inf", "nan", "1e999"}},
+      {{"Timers.ResetSpeed.Interval"}, {"-1"}},
   };
   State state = FullState();
   const std::string before = TraceLine(state, {});
-  for (const Refused& refused : cases) {
-    const auto problem = SetField(state, refused.name, refused.value);
-    ASSERT_TRUE(problem) << refused.name << ' ' << refused.value;
-    EXPECT_FALSE(problem->empty());
-  }
+  for (const auto& [names, values] : cases)
+    for (const std::string& name : names)
+      for (const std::string& value : values) {
+        const auto problem = SetField(state, name, value);
+        ASSERT_TRUE(problem) << name << ' ' << value;
+        EXPECT_FALSE(problem->empty());
+      }
   EXPECT_EQ(TraceLine(state, {}), before);
 }
 
@@ -210,61 +167,28 @@ TEST(Fields, AnIntervalCountsFromNowAndSwitchesNothingOn) {
   EXPECT_EQ(state.timers.iWait(0).Due(), 5'250'000);
 }
 
-TEST(Trace, KeysStandInTheirFixedOrder) {
-  const ordered_json line = ordered_json::parse(TraceLine(State{}, {}));
-  std::string keys;
-  for (const auto& [key, value] : line.items()) keys += key + ' ';
-  EXPECT_EQ(
-      keys,
-      "ms flips Running InMenu NoGameRunning LevelIntroPending ShowLevelScreen DisplayReady "
-      "DebugMode IsPause ShowFPS lvlTime WaitingForStart WaitingForKey WaitingAfterDeath "
-      "WaitingAfterTimeout ShowNames ShowMatchStats MatchStatsDetail GameMode HuntingMode "
-      "MatchLimit NumSnakes AiEnabled AiCount KeyboardLayout GodMode NoClip TimePass Cheated "
-      "CheatLine MainCursor OptionsCursor OptionsPage ScorePage MenuAction StatusText CreditsPos "
-      "CreditsTicker InputTarget TypingActive LastKey KeyPressed WaitAborted ImmortalBlink Fps "
-      "FrameCount MsgAge DispMsg MsgLines Console CenterLines lvlName nextLvl Timeout ElapsedSecs "
-      "reqYellow reqRed reqBlue reqBlack reqScore hasOpenWalls HideCollected blueRate powerRate "
-      "MusicFile BkgPic MapSnakeCount UserItemsUsed MinSpeed MaxSpeed SpeedRate NoSpeedReset "
-      "IncSpeed GlobalSpeed SpeedGain PrevInterval AnimatedItems SndEnabled KiSndEnabled "
-      "MusicEnabled MusicVolume NoCleanUp NewInstall HiScore Snakes Yellow Red Blue Black TNT "
-      "Power "
-      "numYellow numRed numBlue numBlack numTNT numPower numWalls numSpawnPoints numUserItems "
-      "Walls "
-      "SpawnPoints UserItems Timers Sounds Music Drawn LastModel ModelPacks ");
-}
-
-TEST(Trace, TablesHaveTheirFullOrLiveLength) {
-  const json line = Traced(FullState());
-  EXPECT_EQ(line["MsgLines"].size(), 5U);
-  EXPECT_EQ(line["Console"].size(), 5U);
-  EXPECT_EQ(line["CenterLines"].size(), 16U);
-  EXPECT_EQ(line["HiScore"].size(), 10U);
-  EXPECT_EQ(line["Snakes"].size(), 16U);
-  EXPECT_EQ(line["Snakes"][0]["Seg"].size(), 4U);
-  EXPECT_EQ(line["Snakes"][1]["Seg"].size(), 2U);
-  EXPECT_EQ(line["Timers"]["iWait"].size(), 16U);
-  const std::vector<std::string> lists = {"Yellow", "Power", "Walls", "SpawnPoints", "ModelPacks"};
-  for (const std::string& list : lists) {
-    EXPECT_EQ(line[list].size(), 2U) << list;
+TEST(Trace, TablesHaveTheirFullOrLiveLengthAndNeverMore) {
+  State overfull;
+  overfull.Items(ItemKind::kRed).count = 32000;
+  overfull.numWalls = 5000;
+  overfull.numUserItems = -3;
+  overfull.LastModel = 500;
+  overfull.Snakes(1).Length = 400;
+  overfull.Snakes(2).Length = -4;
+  const json live = Traced(FullState());
+  const json full = Traced(overfull);
+  const std::tuple<const char*, std::size_t, std::size_t> cases[] = {
+      {"/MsgLines", 5, 5},       {"/Console", 5, 5},      {"/CenterLines", 16, 16},
+      {"/HiScore", 10, 10},      {"/Snakes", 16, 16},     {"/Timers/iWait", 16, 16},
+      {"/Snakes/0/Seg", 4, 101}, {"/Snakes/1/Seg", 2, 1}, {"/Yellow", 2, 0},
+      {"/Red", 2, 300},          {"/Power", 2, 0},        {"/Walls", 2, 681},
+      {"/SpawnPoints", 2, 0},    {"/ModelPacks", 2, 100}, {"/UserItems", 2, 0},
+  };
+  for (const auto& [table, liveSize, fullSize] : cases) {
+    EXPECT_EQ(live[json::json_pointer(table)].size(), liveSize) << table;
+    EXPECT_EQ(full[json::json_pointer(table)].size(), fullSize) << table;
   }
-}
-
-TEST(Trace, CountsBeyondTheirTablesShowTheWholeTable) {
-  State state;
-  state.Items(ItemKind::kRed).count = 32000;
-  state.numWalls = 5000;
-  state.numUserItems = -3;
-  state.LastModel = 500;
-  state.Snakes(1).Length = 400;
-  state.Snakes(2).Length = -4;
-  const json line = Traced(state);
-  EXPECT_EQ(line["Red"].size(), 300U);
-  EXPECT_EQ(line["numRed"], 32000);
-  EXPECT_EQ(line["Walls"].size(), 681U);
-  EXPECT_EQ(line["UserItems"].size(), 0U);
-  EXPECT_EQ(line["ModelPacks"].size(), 100U);
-  EXPECT_EQ(line["Snakes"][0]["Seg"].size(), 101U);
-  EXPECT_EQ(line["Snakes"][1]["Seg"].size(), 1U);
+  EXPECT_EQ(full["numRed"], 32000);
 }
 
 TEST(Trace, WritesNumbersWithoutNeedlessFractionsAndTextsInUtf8) {

@@ -13,22 +13,13 @@ using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 
-constexpr int kEnter = 28;
-constexpr int kA = 30;
-
-TEST(ScriptPlayer, AnEmptyScriptHoldsNoKeysAndLeavesAfterTenMinutes) {
-  Stage stage("");
-  EXPECT_EQ(stage.YieldAt(0), std::nullopt);
-  EXPECT_FALSE(stage.Held(kEnter));
-  EXPECT_EQ(stage.YieldAt(599'999), std::nullopt);
-  EXPECT_EQ(stage.YieldAt(600'000), 2);
-  EXPECT_THAT(stage.messages.str(), HasSubstr("ten minutes"));
-}
-
-TEST(ScriptPlayer, TheTenMinutesBeginWithTheLastCommand) {
-  Stage stage("1000 down 28");
-  EXPECT_EQ(stage.YieldAt(600'999), std::nullopt);
-  EXPECT_EQ(stage.YieldAt(601'000), 2);
+TEST(ScriptPlayer, LeavesTenMinutesAfterTheLastCommand) {
+  for (const auto& [script, last] : {std::pair{"", 600'000}, {"1000 down 28", 601'000}}) {
+    Stage stage(script);
+    EXPECT_EQ(stage.YieldAt(last - 1), std::nullopt);
+    EXPECT_EQ(stage.YieldAt(last), 2);
+    EXPECT_THAT(stage.messages.str(), HasSubstr("ten minutes"));
+  }
 }
 
 TEST(ScriptPlayer, LeavesWhenAMillionYieldsTakeNoTime) {
@@ -39,46 +30,30 @@ TEST(ScriptPlayer, LeavesWhenAMillionYieldsTakeNoTime) {
   EXPECT_THAT(stage.messages.str(), HasSubstr("no time"));
 }
 
-TEST(ScriptPlayer, AKeyTappedBetweenTwoPollsIsSeenDownAndThenUp) {
-  Stage stage("10 tap 28");
-  stage.YieldAt(9);
-  EXPECT_FALSE(stage.Held(kEnter));
-  stage.YieldAt(100);
-  EXPECT_TRUE(stage.Held(kEnter));
-  EXPECT_FALSE(stage.Held(kEnter));
-}
-
-TEST(ScriptPlayer, ATapLastsThirtyMilliseconds) {
-  Stage stage("10 tap 28");
-  stage.YieldAt(10);
-  EXPECT_TRUE(stage.Held(kEnter));
-  stage.YieldAt(39);
-  EXPECT_TRUE(stage.Held(kEnter));
-  stage.YieldAt(40);
-  EXPECT_FALSE(stage.Held(kEnter));
-}
-
-TEST(ScriptPlayer, TypesOneKeyEverySixtyMilliseconds) {
-  Stage stage("0 type aa");
-  for (const auto& [at, held] : std::vector<std::pair<int, bool>>{{0, true},
-                                                                  {29, true},
-                                                                  {30, false},
-                                                                  {59, false},
-                                                                  {60, true},
-                                                                  {90, false},
-                                                                  {120, false}}) {
-    stage.YieldAt(at);
-    EXPECT_EQ(stage.Held(kA), held) << at;
-  }
-}
-
-TEST(ScriptPlayer, OnePollTakesOneChangeOfEachKey) {
-  Stage stage("0 down 30\n0 down 28\n0 up 30\n0 down 30\n0 down 30\n");
-  stage.YieldAt(0);
-  const std::vector<bool> expectedA = {true, false, true, true};
-  for (const bool held : expectedA) {
-    EXPECT_EQ(stage.Held(kA), held);
-    EXPECT_EQ(stage.keys.at(kEnter), 1);
+TEST(ScriptPlayer, HoldsKeysAsLongAsTheScriptSays) {
+  struct {
+    const char* script;
+    std::size_t code;
+    std::vector<std::pair<int, bool>> polls;  ///< when, and whether the key is held then
+  } const cases[] = {
+      {"", 28, {{0, false}}},
+      // A tap lasts 30 milliseconds, and is seen even when it falls between two polls.
+      {"10 tap 28", 28, {{9, false}, {10, true}, {39, true}, {40, false}}},
+      {"10 tap 28", 28, {{9, false}, {100, true}, {100, false}}},
+      {"0 type aa", 30, {{0, true}, {29, true}, {30, false}, {59, false}, {60, true}, {90, false}}},
+      // A poll takes one change of each key.
+      {"0 down 30\n0 up 30\n0 down 30\n0 down 30",
+       30,
+       {{0, true}, {0, false}, {0, true}, {0, true}}},
+      {"0 down 30\n0 down 28\n0 up 30", 28, {{0, true}, {0, true}}},
+  };
+  for (const auto& each : cases) {
+    Stage stage(each.script);
+    for (const auto& [at, held] : each.polls) {
+      stage.YieldAt(at);
+      stage.player.ReadKeys(stage.keys);
+      EXPECT_EQ(stage.keys.at(each.code) != 0, held) << each.script << " at " << at;
+    }
   }
 }
 
@@ -99,19 +74,18 @@ TEST(ScriptPlayer, EndLeavesBeforeLaterCommands) {
 }
 
 TEST(ScriptPlayer, FailuresNameTheLineAndLeaveWithTwo) {
-  Stage badShot("1 shot there.png");
-  badShot.shots.writable = false;
-  EXPECT_EQ(badShot.YieldAt(1), 2);
-  EXPECT_EQ(badShot.messages.str(), "test.txt:1: there.png cannot be written\n");
-
-  Stage badSet("\n1 set Snakes.1.TNT two");
-  EXPECT_EQ(badSet.YieldAt(1), 2);
-  EXPECT_EQ(badSet.messages.str(), "test.txt:2: Snakes.1.TNT: \"two\" is no whole number\n");
-
-  Stage badTrace("1 state");
-  badTrace.trace.setstate(std::ios::badbit);
-  EXPECT_EQ(badTrace.YieldAt(1), 2);
-  EXPECT_EQ(badTrace.messages.str(), "test.txt:1: the trace cannot be written\n");
+  const std::pair<const char*, const char*> cases[] = {
+      {"1 shot there.png", "test.txt:1: there.png cannot be written\n"},
+      {"\n1 set Snakes.1.TNT two", "test.txt:2: Snakes.1.TNT: \"two\" is no whole number\n"},
+      {"1 state", "test.txt:1: the trace cannot be written\n"},
+  };
+  for (const auto& [script, message] : cases) {
+    Stage stage(script);
+    stage.shots.writable = false;
+    stage.trace.setstate(std::ios::badbit);
+    EXPECT_EQ(stage.YieldAt(1), 2) << script;
+    EXPECT_EQ(stage.messages.str(), message);
+  }
 }
 
 TEST(ScriptPlayer, SetsFieldsBeforeALaterStateOfTheSameTime) {

@@ -32,13 +32,8 @@ std::string Listing(const Script& script) {
   return list;
 }
 
-struct GoodCase {
-  std::string text;
-  std::string listing;
-};
-
 TEST(ParseScript, TakesEveryCommandApart) {
-  const std::vector<GoodCase> cases = {
+  const std::pair<std::string, std::string> cases[] = {
       {"", ""},
       {"# nothing\n\n   \r\n\t# more\r\n", ""},
       {"0 down 1\r\n5 up 255\r\n", "0 down 1\n5000 up 255\n"},
@@ -57,14 +52,12 @@ TEST(ParseScript, TakesEveryCommandApart) {
       {"1 set GodMode true\n1 set  Snakes.1.Name  two words \n1 set StatusText\n1 set lvlName # x",
        "1000 set GodMode=true\n1000 set Snakes.1.Name= two words \n1000 set StatusText=\n"
        "1000 set lvlName=\n"},
-      {"\xEF\xBB\xBF"
-       "1 end",
-       "1000 end\n"},
+      {"\uFEFF1 end", "1000 end\n"},
   };
-  for (const GoodCase& good : cases) {
-    const ScriptOrError parsed = ParseScript(good.text, "s");
-    ASSERT_TRUE(parsed.script) << good.text << parsed.error;
-    EXPECT_EQ(Listing(*parsed.script), good.listing) << good.text;
+  for (const auto& [text, listing] : cases) {
+    const ScriptOrError parsed = ParseScript(text, "s");
+    ASSERT_TRUE(parsed.script) << text << parsed.error;
+    EXPECT_EQ(Listing(*parsed.script), listing) << text;
   }
 }
 
@@ -75,39 +68,34 @@ TEST(ParseScript, LastsUntilTheLastKeyOrAnswer) {
 }
 
 TEST(ParseScript, SaysWhereAndWhatIsWrong) {
-  const std::vector<GoodCase> cases = {
-      {"5 state\n4 state\n", "play.txt:2: the time is before"},
-      {"\n\nstate\n", "play.txt:3: \"state\" is no time"},
-      {"-1 state", "play.txt:1: \"-1\" is no time"},
-      {"1.5 state", "play.txt:1: \"1.5\" is no time"},
-      {"99999999999999999999 end", "play.txt:1: \""},
-      {"1000000000001 end", "play.txt:1: \"1000000000001\" is no time"},
-      {"1", "play.txt:1: there is no command \"\""},
-      {"1 STATE", "play.txt:1: there is no command \"STATE\""},
-      {"1 jump\x1b[2J", "play.txt:1: there is no command \"jump?[2J\""},
-      {"1 down 0", "play.txt:1: a scan code"},
-      {"1 up 256", "play.txt:1: a scan code"},
-      {"1 tap", "play.txt:1: a scan code"},
-      {"1 tap 28 29", "play.txt:1: a scan code"},
-      {"1 down 0x1c", "play.txt:1: a scan code"},
-      {"1 type", "play.txt:1: a text to type"},
-      {"1 type God", "play.txt:1: only lower-case"},
-      {"1 type a\tb", "play.txt:1: only lower-case"},
-      {"1 answer maybe", "play.txt:1: an answer"},
-      {"1 focus", "play.txt:1: the focus"},
-      {"1 state now", "play.txt:1: nothing may follow"},
-      {"1 end 0", "play.txt:1: nothing may follow"},
-      {"1 shot # no file", "play.txt:1: the file"},
-      {"1 set", "play.txt:1: the name"},
-      {"1 type " + std::string(10'001, 'a'), "play.txt:1: the text to type is too long"},
-      {std::string(4 * 1024 * 1024 + 1, '\n'), "play.txt: the script is larger"},
+  const std::pair<std::string, std::vector<std::string>> cases[] = {
+      {"2: the time is before", {"5 state\n4 state\n"}},
+      {"3: \"state\" is no time", {"\n\nstate\n"}},
+      {"1: \"-1\" is no time", {"-1 state"}},
+      {"1: \"1.5\" is no time", {"1.5 state"}},
+      {"1: \"99999999999999999999\" is no time", {"99999999999999999999 end"}},
+      {"1: \"1000000000001\" is no time", {"1000000000001 end"}},
+      {"1: there is no command \"\"", {"1"}},
+      {"1: there is no command \"STATE\"", {"1 STATE"}},
+      {"1: there is no command \"jump?[2J\"", {"1 jump\x1b[2J"}},
+      {"1: a scan code", {"1 down 0", "1 up 256", "1 tap", "1 tap 28 29", "1 down 0x1c"}},
+      {"1: a text to type", {"1 type"}},
+      {"1: only lower-case", {"1 type God", "1 type a\tb"}},
+      {"1: an answer", {"1 answer maybe"}},
+      {"1: the focus", {"1 focus"}},
+      {"1: nothing may follow", {"1 state now", "1 end 0"}},
+      {"1: the file", {"1 shot # no file"}},
+      {"1: the name", {"1 set"}},
+      {"1: the text to type is too long", {"1 type " + std::string(10'001, 'a')}},
+      {" the script is larger", {std::string(4 * 1024 * 1024 + 1, '\n')}},
   };
-  for (const GoodCase& bad : cases) {
-    const ScriptOrError parsed = ParseScript(bad.text, "play.txt");
-    EXPECT_FALSE(parsed.script) << bad.text.substr(0, 40);
-    EXPECT_THAT(parsed.error, StartsWith(bad.listing));
-    EXPECT_EQ(parsed.error.find('\n'), std::string::npos);
-  }
+  for (const auto& [error, texts] : cases)
+    for (const std::string& text : texts) {
+      const ScriptOrError parsed = ParseScript(text, "play.txt");
+      EXPECT_FALSE(parsed.script) << text.substr(0, 40);
+      EXPECT_THAT(parsed.error, StartsWith("play.txt:" + error)) << text.substr(0, 40);
+      EXPECT_EQ(parsed.error.find('\n'), std::string::npos);
+    }
 }
 
 TEST(ParseScript, BoundsTheNumberOfSteps) {

@@ -61,10 +61,6 @@ struct Stage {
     }
     return std::nullopt;
   }
-  bool Held(int code) {
-    player.ReadKeys(keys);
-    return keys.at(static_cast<std::size_t>(code)) != 0;
-  }
 
   State state;
   HandMovedClock clock;
