@@ -154,27 +154,25 @@ TEST_F(DiskFilesTest, AProgramFolderThatCannotBeWrittenSendsEverythingToThePlaye
 }
 
 TEST_F(DiskFilesTest, TheProbeDecidesWhereWritesGoAndAFailedWriteFallsBack) {
-  EXPECT_TRUE(Both(NeverWritable).Write(".\\a.txt", {}));
+  EXPECT_TRUE(Both(NeverWritable).Write(".\\a.txt", ToBytes("left from an earlier run")));
   EXPECT_THAT(AllBelow(user_), ElementsAre("a.txt"));
   EXPECT_THAT(AllBelow(program_), ElementsAre());
 
-  Put(program_ / "snd", "a file where a folder is wanted");
-  EXPECT_TRUE(Both().Write(".\\snd\\b.wav", {}));
-  EXPECT_THAT(AllBelow(user_), ElementsAre("a.txt", "snd", "snd/b.wav"));
-}
-
-TEST_F(DiskFilesTest, AFreshFileIsNotHiddenByAnOldOneOfThePlayer) {
-  Put(user_ / "gfx" / "a.bmp", "left from a run that could not write");
   DiskFiles files = Both();
-  EXPECT_TRUE(files.Write(".\\gfx\\a.bmp", ToBytes("fresh")));
-  EXPECT_EQ(ReadText(files, ".\\gfx\\a.bmp"), "fresh");
+  EXPECT_TRUE(files.Write(".\\a.txt", ToBytes("fresh")));
+  EXPECT_EQ(ReadText(files, ".\\a.txt"), "fresh") << "the player's old one does not hide it";
+
+  Put(program_ / "snd", "a file where a folder is wanted");
+  EXPECT_TRUE(files.Write(".\\snd\\b.wav", {}));
+  EXPECT_THAT(AllBelow(user_), ElementsAre("snd", "snd/b.wav"));
 }
 
 TEST_F(DiskFilesTest, FullNamesOfARootInsideTheOtherMeanTheInnerOne) {
   Put(program_ / "user" / "a.txt", "inner");
-  const DiskFiles files(program_, program_ / "user", NeverWritable);
+  DiskFiles files(program_, program_ / "user", NeverWritable);
   EXPECT_EQ(ReadText(files, files.FullName(".\\a.txt")), "inner");
-  EXPECT_EQ(ReadText(files, (program_ / "user").string() + "\\A.TXT"), "inner");
+  EXPECT_TRUE(files.Write((program_ / "user").string() + "\\A.TXT", ToBytes("new")));
+  EXPECT_EQ(Contents(program_ / "user" / "a.txt"), "new");
 }
 
 TEST_F(DiskFilesTest, FilesBeyondTheReadLimitAreNotRead) {

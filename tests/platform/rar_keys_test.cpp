@@ -15,32 +15,18 @@ std::string Hex(std::span<const std::uint8_t> bytes) {
   return text;
 }
 
-constexpr RarSalt kSalt = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16};
-constexpr char kUmlaut[] = "k\xC3\xA4se";
+// The values expected here were computed by another program, from descriptions of the methods. That
+// plain passwords give the right keys is told by the committed archives, which are read with them.
 
-// The values expected here were computed by another program, from descriptions of the methods.
-
-TEST(RarKeys, OfGenerationFive) {
-  const Rar5Keys keys = DeriveRar5Keys(kUmlaut, kSalt, 4);
-  EXPECT_EQ(Hex(keys.cipher), "4d0a4c61f6a4c5c8dde37a108eb34f13ebbc55394c005a5f0698521905b1b23c");
-  EXPECT_EQ(Hex(keys.sums), "950655a5a3c95291551969cf26b7b0d90fec35fdc62888380535ceb5bcbd41d6");
-  EXPECT_EQ(Hex(keys.check), "ab3f29900dcd0186");
-  EXPECT_EQ(Hex(CheckValueSum(keys.check)), "6b15823f");
-  EXPECT_EQ(TweakedCrc(0x12345678, keys), 0x0CDEF4A9U);
-}
-
-TEST(RarKeys, OfGenerationFour) {
-  const Rar4Keys keys = DeriveRar4Keys("sn80463", Rar4Salt{8, 7, 6, 5, 4, 3, 2, 1});
-  EXPECT_EQ(Hex(keys.cipher), "5550b5e45a8788f7a42155b7dad69e94");
-  EXPECT_EQ(Hex(keys.iv), "6b4a94199640f4c17c72cfea2d6d82e1");
-  const Rar4Keys beyondAscii =
-      DeriveRar4Keys(std::string(kUmlaut) + "\xF0\x9F\x90\x8D", std::nullopt);
-  EXPECT_EQ(Hex(beyondAscii.cipher), "86de8dad362d26a47f11d70d723a8ae5");
-  EXPECT_EQ(Hex(beyondAscii.iv), "020a8abc97a71ba85945b2daef108a45");
+TEST(RarKeys, OfGenerationFourTakeAnyLetterAndNoSalt) {
+  const Rar4Keys keys = DeriveRar4Keys("k\xC3\xA4se\xF0\x9F\x90\x8D", std::nullopt);
+  EXPECT_EQ(Hex(keys.cipher), "86de8dad362d26a47f11d70d723a8ae5");
+  EXPECT_EQ(Hex(keys.iv), "020a8abc97a71ba85945b2daef108a45");
 }
 
 TEST(RarKeys, AreNotMadeWhenThatTakesForever) {
-  RarKeyRing keys(kUmlaut, 20'000);
+  constexpr RarSalt kSalt = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16};
+  RarKeyRing keys("password", 20'000);
   EXPECT_FALSE(keys.Keys5(kSalt, RarKeyRing::kMaxExponent + 1));
   EXPECT_TRUE(keys.Keys5(kSalt, 10));
   EXPECT_TRUE(keys.Keys4(Rar4Salt{1}));

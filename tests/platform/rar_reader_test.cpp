@@ -9,8 +9,6 @@
 namespace coilrun {
 namespace {
 
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
 
@@ -60,18 +58,20 @@ TEST_P(RarKinds, GiveNamesAndContents) {
 TEST_P(RarKinds, ToldWhyAPasswordDoesNotFit) {
   RarReader none(whole_, "");
   RarReader wrong(whole_, "sn80464");
+  const std::string fault = new_ ? "wrong password" : "wrong password or a damaged header";
+  const std::string problem = new_ ? "wrong password" : "wrong password or damaged contents";
   if (GetParam().ends_with("headers")) {
     EXPECT_THAT(none.Entries(), IsEmpty());
     EXPECT_EQ(none.Fault(), "the archive is encrypted and needs a password");
     EXPECT_THAT(wrong.Entries(), IsEmpty());
-    EXPECT_THAT(wrong.Fault(), HasSubstr("wrong password"));
+    EXPECT_EQ(wrong.Fault(), fault);
     return;
   }
   const bool open = GetParam().ends_with("open");
   for (const std::size_t i : {1U, 2U}) {
     const std::string refused = "(encrypted, and no password was given)";
     EXPECT_EQ(TextOf(none.Read(i)), open ? kContents[i] : refused);
-    EXPECT_THAT(TextOf(wrong.Read(i)), HasSubstr(open ? kContents[i] : "wrong password"));
+    EXPECT_EQ(TextOf(wrong.Read(i)), open ? kContents[i] : "(" + problem + ")");
   }
 }
 
@@ -152,22 +152,23 @@ TEST(RarReader, NeedsNoCheckValueToTellAWrongPassword) {
   }
 }
 
+TEST(RarNames, AreHarmlessOrHaveAProblem) {
+  const std::pair<std::string, std::vector<std::string>> cases[] = {
+      {"", {"a.bmp", "gfx/..a/.b", "gfx\\...a", "ab:c", "1:c", "name of blanks "}},
+      {"its name leads out of the folder", {"../a", "a/../../b", "a\\..\\..\\b", "a/.. ./b", ".."}},
+      {"its name is absolute", {"/etc/x", "\\\\host\\share", "C:\\x", "gfx/c:x"}},
+      {"its name holds control characters", {"line\nbreak", std::string("zero\0.bmp", 9)}},
+      {"it has no name", {""}},
+  };
+  for (const auto& [problem, names] : cases)
+    for (const std::string& name : names) EXPECT_EQ(NameProblem(name), problem) << name;
+}
+
 TEST(RarReader, RefusesWithAReason) {
-  const std::string up = "its name leads out of the folder";
-  const std::string absolute = "its name is absolute";
-  const std::string control = "its name holds control characters";
   const std::vector<std::pair<MadeEntry, std::string>> refusals = {
-      {{.name = "../up.bmp"}, up},
-      {{.name = "gfx/../../up.bmp"}, up},
-      {{.name = "gfx\\..\\..\\up"}, up},
-      {{.name = "gfx/.. ./up"}, up},
-      {{.name = "..", .folder = true}, up},
-      {{.name = "/etc/x"}, absolute},
-      {{.name = "\\\\host\\share"}, absolute},
-      {{.name = "C:\\x"}, absolute},
-      {{.name = "gfx/c:x"}, absolute},
-      {{.name = "line\nbreak"}, control},
-      {{.name = std::string("zero\0.bmp", 9)}, control},
+      {{.name = "../up.bmp"}, "its name leads out of the folder"},
+      {{.name = "..", .folder = true}, "its name leads out of the folder"},
+      {{.name = std::string("zero\0.bmp", 9)}, "its name holds control characters"},
       {{.name = ""}, "it has no name"},
       {{.name = "l", .link = true}, "a link, which is never unpacked"},
       {{.name = "a", .claimedSize = kMaxEntrySize + 1}, "larger than 256 MiB"},
