@@ -104,8 +104,8 @@ class FieldTable {
 
   void VisitMenus() const {
     auto& menus = state_.menus;
-    visit_.Field("MainCursor", menus.MainCursor, Range{0, kMainEntries});
-    visit_.Field("OptionsCursor", menus.OptionsCursor, Range{0, kOptionsEntries});
+    visit_.Field("MainCursor", menus.MainCursor);
+    visit_.Field("OptionsCursor", menus.OptionsCursor);
     visit_.Field("OptionsPage", menus.OptionsPage, kOnOffPage);
     visit_.Field("ScorePage", menus.ScorePage, kOnOffPage);
     visit_.Field("MenuAction", menus.MenuAction);
@@ -198,7 +198,7 @@ class FieldTable {
     visit_.Field("Y", snake.Y);
     visit_.Field("Dir", snake.Dir);
     visit_.Field("NextDir", snake.NextDir);
-    visit_.Field("Length", snake.Length, Range{0, kLastSeg});
+    visit_.Field("Length", snake.Length);
     visit_.Field("Grow", snake.Grow);
     visit_.Field("StartX", snake.StartX);
     visit_.Field("StartY", snake.StartY);
@@ -346,9 +346,9 @@ class FieldTable {
   void VisitModelPacks() const {
     auto& packs = state_.ModelPacks;
     visit_.Field("LastModel", state_.LastModel, Range{-1, packs.kLast});
-    visit_.Array("ModelPacks", packs.kFirst, std::min<int>(state_.LastModel, packs.kLast),
+    visit_.Array("ModelPacks", 1, 1 + std::min<int>(state_.LastModel, packs.kLast),
                  [&](int number) {
-                   auto& pack = packs(number);
+                   auto& pack = packs(number - 1);
                    visit_.Field("File", pack.File);
                    visit_.Field("Dir", pack.Dir);
                    visit_.Field("Name", pack.Name);
@@ -359,8 +359,6 @@ class FieldTable {
                  });
   }
 
-  static constexpr int kMainEntries = 4;
-  static constexpr int kOptionsEntries = 14;
   static constexpr int kLastScanCode = 255;
   static constexpr int kBitmapFonts = 6;
   static constexpr int kFullVolume = 100;

@@ -31,7 +31,7 @@ State FullState() {
 }
 
 bool CountsFromZero(std::string_view array) {
-  return array == "Seg" || array == "CenterLines" || array == "iWait" || array == "ModelPacks";
+  return array == "Seg" || array == "CenterLines" || array == "iWait";
 }
 
 /// "/Snakes/0/Seg/3/X" as scripts write it: "Snakes.1.Seg.3.X".
@@ -115,7 +115,9 @@ TEST(Fields, RefusesWhatDoesNotFitAndLeavesTheStateAlone) {
       {{"Snakes.0.X", "Snakes.17.X", "Snakes.-1.X", "Snakes.99999999999.X"}, {"1"}},
       {{"Snakes.1.Seg.4.X", "Snakes.1.Seg.-1.X", "Snakes.2.Seg.2.X", "MsgLines.1.Text"}, {"1"}},
       {{"Yellow.0.X", "Yellow.3.X", "SpawnPoints.3.X", "UserItems.3.Type"}, {"1"}},
-      {{"ModelPacks.2.Name", "MsgLines.0", "MsgLines.6", "CenterLines.16.Text"}, {"x"}},
+      {{"ModelPacks.0.Name", "ModelPacks.3.Name", "MsgLines.0", "MsgLines.6",
+        "CenterLines.16.Text"},
+       {"x"}},
       {{"Timers.iWait.16.Interval", "Timers.tmr1.Interval"}, {"100"}},
       {{"ms", "Music.Position", "Drawn.1.Text", "Sounds.1.Path"}, {"5"}},
       // Values of the wrong kind or out of range.
@@ -123,7 +125,7 @@ TEST(Fields, RefusesWhatDoesNotFitAndLeavesTheStateAlone) {
       {{"Snakes.1.X"}, {"1.5", "0x10", "12 apples", "", "32768", "-32769"}},
       {{"Snakes.1.Score"}, {"2147483648", "99999999999999999999"}},
       {{"Snakes.1.Dir", "Walls.1.Kind"}, {"left", "Up", "brick"}},
-      {{"Snakes.1.Length", "Snakes.1.Model"}, {"101", "-1"}},
+      {{"Snakes.1.Model"}, {"-1"}},
       {{"NumSnakes"}, {"0", "17"}},
       {{"numYellow", "numWalls", "numUserItems", "Timers.AnimFrame"}, {"-1", "682"}},
       {{"numYellow"}, {"301"}},

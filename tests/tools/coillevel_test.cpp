@@ -39,10 +39,14 @@ TEST(Coillevel, CheckNamesTheLine) {
   const Workshop shop;
   shop.Put("good.dat", LevelWith("lvlName= Good\r\nnextLvl= END\r\nnumYellow=3\r\n"));
   shop.Put("odd.dat", LevelWith("lvlname= Odd\r\n"));
+  shop.Put("below.dat", LevelWith("a wall is missing here\r\n_ | | ;\r\n"));
+  shop.Put("blank.dat", LevelWith("numYellow= 3 \r\nreqRed=1 2\r\n"));
   shop.Put("bad.dat", LevelWith("lvlName= Bad\r\nnumRed=301\r\n"));
   const std::tuple<std::string, int, std::string> cases[] = {
       {"good.dat", 0, ""},
       {"odd.dat", 0, "odd.dat:23: ignored"},
+      {"below.dat", 0, "below.dat:24: ignored: the map has 22 rows"},
+      {"blank.dat", 0, "blank.dat:24: \"1 2\" is read as 12"},
       {"bad.dat", 1, "bad.dat:24: more than 300"},
       {"good.dat bad.dat", 1, "bad.dat:24: "},
       {COILRUN_BUILD_DIR "/game/lvl/*.dat", 0, ""},

@@ -46,6 +46,7 @@ std::vector<Finding> LevelChecker::Check(std::string_view text) {
     const KeyDef* key = CheckKey(*line);
     if (line_ <= kMapRows) CheckRow(*line, key != nullptr);
     if (key == nullptr) CheckNoKey(*line);
+    if (key == nullptr && line_ > kMapRows) CheckRowBelow(*line);
   }
   CheckWhole();
   return findings_;
@@ -57,6 +58,16 @@ void LevelChecker::CheckRow(std::string_view line, bool isKeyLine) {
     return true;
   });
   if (!isKeyLine) CheckOpenEnd(line);
+}
+
+void LevelChecker::CheckRowBelow(std::string_view line) {
+  int cells = 0;
+  const bool isRow = ScanRow(line, [&](int, std::string_view word) {
+    const bool places = CodeOf(word).has_value();
+    cells += places ? 1 : 0;
+    return places || word == kFiller;
+  });
+  if (isRow && cells > 0) Warn("ignored: the map has " + std::to_string(kMapRows) + " rows");
 }
 
 void LevelChecker::CheckCell(int column, std::string_view word, bool isKeyLine) {
@@ -147,7 +158,10 @@ void LevelChecker::CheckValue(const KeyDef& def, std::string_view line, const Le
 }
 
 void LevelChecker::CheckNumber(const KeyDef& def, std::string_view rest, const LevelValue& value) {
-  if (WholeNumber(rest) != value.number) {
+  const std::string_view digits = rest.substr(std::min(rest.find_first_not_of(' '), rest.size()));
+  const std::size_t blank = digits.find(' ');
+  const bool goesOn = blank != digits.npos && digits.find_first_not_of(' ', blank) != digits.npos;
+  if (goesOn || WholeNumber(rest) != value.number) {
     Warn(Quoted(rest) + " is read as " + NumberText(value.number));
   }
   CheckRange(def, value.number);

@@ -28,6 +28,8 @@ class LevelChecker {
  private:
   void CheckRow(std::string_view line, bool isKeyLine);
   void CheckCell(int column, std::string_view word, bool isKeyLine);
+  /// A line below the map that looks like a row of it.
+  void CheckRowBelow(std::string_view line);
   void CheckOpenEnd(std::string_view line);
   void Count(CellKind kind, char letter);
   const KeyDef* CheckKey(std::string_view line);
