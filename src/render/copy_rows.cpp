@@ -67,27 +67,33 @@ template <std::size_t kBlock, std::size_t kWidth>
   } while (++cursor.place != end);
 }
 
-/// Copies a group when it has this width; tells whether it has.
-template <std::size_t kBlock, std::size_t kWidth>
-[[gnu::always_inline]] inline bool CopyGroup(RowGroup group, Cursor& cursor, Pixel* to) {
-  if (group.width != kWidth) return false;
-  group.stacked ? CopyStacked<kBlock, kWidth>(cursor, group.rows, to)
-                : CopyScattered<kBlock, kWidth>(cursor, group.rows, to);
+/// A number for each way to copy a group, so that one jump leads there.
+constexpr std::size_t NumberOf(RowGroup group) {
+  return std::size_t{2} * (group.width - 1U) + (group.stacked ? 1 : 0);
+}
+constexpr std::size_t kNumbers = std::size_t{2} * kWidestRow;
+
+template <std::size_t kBlock, std::size_t kNumber>
+[[gnu::always_inline]] inline bool CopyGroup(std::uint32_t rows, Cursor& cursor, Pixel* to) {
+  constexpr std::size_t kWidth = 1 + kNumber / 2;
+  kNumber % 2 == 0 ? CopyScattered<kBlock, kWidth>(cursor, rows, to)
+                   : CopyStacked<kBlock, kWidth>(cursor, rows, to);
   return true;
 }
 
-/// Becomes a jump to the steps for the width of the group.
+/// Becomes the jump.
 template <std::size_t kBlock, std::size_t... kIndices>
 [[gnu::always_inline]] inline void CopyGroup(RowGroup group, Cursor& cursor, Pixel* to,
                                              std::index_sequence<kIndices...>) {
-  (CopyGroup<kBlock, kIndices + 1>(group, cursor, to) || ...);
+  const std::size_t number = NumberOf(group);
+  ((number == kIndices && CopyGroup<kBlock, kIndices>(group.rows, cursor, to)) || ...);
 }
 
 template <std::size_t kBlock>
 [[gnu::always_inline]] inline void CopyGroups(const PixelRows& rows, Pixel* to) {
   Cursor cursor{rows.places.data(), rows.pixels.data()};
   for (const RowGroup group : rows.groups) {
-    CopyGroup<kBlock>(group, cursor, to, std::make_index_sequence<kWidestRow>{});
+    CopyGroup<kBlock>(group, cursor, to, std::make_index_sequence<kNumbers>{});
   }
 }
 
