@@ -48,10 +48,12 @@ TEST(LoadSettings, TheMultiplayerModesFixTheSpeedTweaks) {
   MemorySettings store;
   store.Set("Tweak", "Speed", "3");
   State state;
+  state.settings.IncSpeed = true;
   state.mode.GameMode = GameMode::kDeathmatch;
   LoadSettings(state, store);
   EXPECT_EQ(state.settings.SpeedRate, 0.5);
   EXPECT_TRUE(state.settings.NoSpeedReset);
+  EXPECT_FALSE(state.settings.IncSpeed);
 
   SaveSettings(state, store);
   EXPECT_EQ(store.Get("Tweak", "Speed"), "3") << "the stored tweaks are left alone";
@@ -62,6 +64,9 @@ TEST(SaveSettings, WhatIsSavedIsFoundAgain) {
   State saved;
   LoadSettings(saved, store);
   saved.settings.MinSpeed = 120;
+  saved.settings.MaxSpeed = 41;
+  saved.settings.SndEnabled = false;
+  saved.settings.MusicVolume = 250;
   saved.settings.SpeedRate = 1.5;
   saved.settings.IncSpeed = true;
   saved.settings.AnimatedItems = false;
@@ -74,6 +79,9 @@ TEST(SaveSettings, WhatIsSavedIsFoundAgain) {
   State found;
   LoadSettings(found, store);
   EXPECT_EQ(found.settings.MinSpeed, 120);
+  EXPECT_EQ(found.settings.MaxSpeed, 41);
+  EXPECT_FALSE(found.settings.SndEnabled);
+  EXPECT_EQ(found.settings.MusicVolume, 100) << "as loud as it goes";
   EXPECT_EQ(found.settings.SpeedRate, 1.5);
   EXPECT_TRUE(found.settings.IncSpeed);
   EXPECT_FALSE(found.settings.AnimatedItems);
