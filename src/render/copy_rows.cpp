@@ -109,11 +109,11 @@ void CopyRows16Bytes(const PixelRows& rows, Pixel* to) {
 
 }  // namespace
 
-RowCopier FastestRowCopier() {
+std::vector<RowCopier> RowCopiers() {
 #if defined(__x86_64__)
-  if (__builtin_cpu_supports("avx2")) return CopyRows32Bytes;
+  if (__builtin_cpu_supports("avx2")) return {CopyRows32Bytes, CopyRows16Bytes};
 #endif
-  return CopyRows16Bytes;
+  return {CopyRows16Bytes};
 }
 
 }  // namespace coilrun

@@ -29,7 +29,7 @@ struct PixelRows {
 /// Copies rows to their places from `to` on.
 using RowCopier = void (*)(const PixelRows& rows, Pixel* to);
 
-/// The fastest one for this processor.
-RowCopier FastestRowCopier();
+/// All that this processor can run, the fastest first. They do the same.
+std::vector<RowCopier> RowCopiers();
 
 }  // namespace coilrun

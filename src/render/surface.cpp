@@ -16,7 +16,7 @@ constexpr Pixel Mix(Pixel below, Color color, unsigned coverage) {
 
 }  // namespace
 
-Surface::Surface() : pixels_(kScreenPixels, 0), copyRows_(FastestRowCopier()) {}
+Surface::Surface() : pixels_(kScreenPixels, 0), copyRows_(RowCopiers().front()) {}
 
 void Surface::Fill(Color color) {
   std::fill(pixels_.begin(), pixels_.end(), color.ToPixel());

@@ -72,6 +72,23 @@ TEST(Blit, CopiesWhatAPixelByPixelDrawCopies) {
   }
 }
 
+TEST(CopyRows, IsTheSameWithEverySizeOfRegisters) {
+  const auto copied = [](const Picture& picture, RowCopier copy) {
+    std::vector<Pixel> screen(kScreenPixels);
+    copy(picture.Opaque(), screen.data());
+    return screen;
+  };
+  Rnd rnd;
+  for (int width = 1; width <= 2 * kWidestRow; ++width) {
+    const Picture mask(RandomMask({width, 24}, 0, rnd), KeyMode::kBlack);
+    const Picture slab(Plain(width, 5, 0xC0C0C0), KeyMode::kBlack);
+    for (const RowCopier copy : RowCopiers()) {
+      EXPECT_EQ(copied(mask, copy), copied(mask, RowCopiers().front())) << width;
+      EXPECT_EQ(copied(slab, copy), copied(slab, RowCopiers().front())) << width;
+    }
+  }
+}
+
 TEST(Blit, TakesPartsOnlyFromInsideThePicture) {
   Rnd rnd;
   const Bitmap bitmap = RandomMask({16, 24}, 0, rnd);
