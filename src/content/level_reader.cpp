@@ -28,7 +28,7 @@ constexpr std::array<Target<LevelState, double>, 7> kLevelNumbers = {
      {LevelKey::kPowerRate, &LevelState::powerRate},
      {LevelKey::kTimeout, &LevelState::Timeout}}};
 
-constexpr std::array<Target<SettingsState, double>, 3> kSpeeds = {
+constexpr std::array<Target<SettingsState, LevelSetting<double>>, 3> kSpeeds = {
     {{LevelKey::kIncrBy, &SettingsState::SpeedRate},
      {LevelKey::kMaxSpd, &SettingsState::MaxSpeed},
      {LevelKey::kMinSpd, &SettingsState::MinSpeed}}};
@@ -133,7 +133,7 @@ bool LevelReader::Apply(LevelKey key, const LevelValue& value) {
       state_.level.reqScore = static_cast<int>(value.number);
       return true;
     case LevelKey::kIncrease:
-      state_.settings.IncSpeed = value.flag;
+      state_.settings.IncSpeed.ReplaceForLevel(value.flag);
       return true;
     case LevelKey::kSet:
       SetUserItemPicture(value.letter, value.text);
@@ -159,7 +159,7 @@ bool LevelReader::ApplyFromTables(LevelKey key, const LevelValue& value) {
     return true;
   }
   if (const auto* speed = Find(kSpeeds, key)) {
-    state_.settings.*speed->member = value.number;
+    (state_.settings.*speed->member).ReplaceForLevel(value.number);
     return true;
   }
   if (const auto* flag = Find(kTrueFlags, key)) {
@@ -200,6 +200,7 @@ bool LevelReader::ApplyToSnakes(LevelKey key, double number) {
       return true;
     case LevelKey::kGSpeed:
       player.BaseInterval = static_cast<int>(number);
+      state_.level.SetsPeriod = true;
       return true;
     case LevelKey::kAIS:
       return SetSnakeCount(number);

@@ -37,11 +37,10 @@ void ResetSnake(State& state, int number) {
   SnakeRec& snake = state.Snakes(number);
   snake.Dir = Dir::kNone;
   snake.NextDir = Dir::kNone;
-  snake.Length = 1;
+  ResetSnakeBody(state, number);
   for (Int16 SnakeRec::*const field :
-       {&SnakeRec::Grow, &SnakeRec::Frags, &SnakeRec::Deaths, &SnakeRec::RedEaten,
-        &SnakeRec::BlueEaten, &SnakeRec::BlackEaten, &SnakeRec::YellowEaten, &SnakeRec::PowerEaten,
-        &SnakeRec::TNT}) {
+       {&SnakeRec::Frags, &SnakeRec::Deaths, &SnakeRec::RedEaten, &SnakeRec::BlueEaten,
+        &SnakeRec::BlackEaten, &SnakeRec::YellowEaten, &SnakeRec::PowerEaten, &SnakeRec::TNT}) {
     snake.*field = 0;
   }
   snake.Score = 0;
@@ -66,7 +65,7 @@ void ResetProperties(State& state) {
   for (bool LevelState::*const flag :
        {&LevelState::UsesRed, &LevelState::UsesBlue, &LevelState::UsesBlack, &LevelState::UsesTNT,
         &LevelState::UsesPower, &LevelState::hasOpenWalls, &LevelState::HideCollected,
-        &LevelState::UserItemsUsed}) {
+        &LevelState::UserItemsUsed, &LevelState::SetsPeriod}) {
     level.*flag = false;
   }
 }

@@ -102,6 +102,7 @@ void CheckTimeLimit(Game& game) {
   state.shell.WaitingAfterTimeout = false;
   state.shell.WaitingForStart = true;
   RespawnSnake(state, kPlayer);
+  state.level.ElapsedSecs = 0;
   CheckGameOver(game);
 }
 

@@ -9,12 +9,15 @@ namespace {
 /// With fewer seconds left an immortal snake stays hidden.
 constexpr int kBlinkingSeconds = 3;
 
+void EndIfSpent(State& state, SnakeRec& snake) {
+  if (!snake.Immortal || snake.ImmortalSecs > 0) return;
+  snake.Immortal = false;
+  MessagePrint(state, snake.Name + " is no longer immortal!");
+}
+
 /// Ends an immortality that has run out and says whether the shared blink shows the snake.
 bool BlinkShows(State& state, SnakeRec& snake) {
-  if (snake.ImmortalSecs <= 0) {
-    snake.Immortal = false;
-    MessagePrint(state, snake.Name + " is no longer immortal!");
-  }
+  EndIfSpent(state, snake);
   bool& blink = state.shell.ImmortalBlink;
   const bool shown = !blink;
   if (shown) {
@@ -32,6 +35,10 @@ void PlaceWaitingSnakes(State& state) {
     SnakeRec& snake = state.Snakes(s);
     if (snake.Dir == Dir::kNone || state.shell.WaitingForStart) PutOnStart(snake);
   }
+}
+
+void EndSpentImmortality(State& state) {
+  for (int s = 1; s <= SnakesInPlay(state); ++s) EndIfSpent(state, state.Snakes(s));
 }
 
 SnakesShown SnakesShownInLoop(State& state) {

@@ -9,6 +9,8 @@ using SnakesShown = Table<bool, kMaxSnakes>;
 
 /// Puts the heads of waiting snakes on their start cells; called beside the start markers.
 void PlaceWaitingSnakes(State& state);
+/// Ends every immortality that has run out: in a pass in which the player steps.
+void EndSpentImmortality(State& state);
 /// The main loop's pass over the snakes: a snake that waits for the start ends it. Ends an
 /// immortality that has run out; immortal snakes share one blink.
 SnakesShown SnakesShownInLoop(State& state);

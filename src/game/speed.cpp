@@ -18,7 +18,11 @@ constexpr int kSpeedUpTicks = 2;
 int SpedUpPeriod(const State& state) {
   const SettingsState& settings = state.settings;
   const double period = std::trunc(state.Snakes(kPlayer).BaseInterval - settings.SpeedGain);
-  return StepPeriod(std::max(period, settings.MaxSpeed));
+  return StepPeriod(std::max<double>(period, settings.MaxSpeed));
+}
+
+bool LevelClockRuns(const ShellState& shell) {
+  return shell.lvlTime && !shell.IsPause && !shell.InMenu;
 }
 
 void SpeedUp(State& state) {
@@ -32,7 +36,7 @@ void TickSecond(State& state) {
   for (int s = 1; s <= SnakesInPlay(state); ++s) {
     if (state.Snakes(s).Immortal) --state.Snakes(s).ImmortalSecs;
   }
-  if (!state.shell.lvlTime) return;
+  if (!LevelClockRuns(state.shell)) return;
   if (state.level.ElapsedSecs < kLastSecond) ++state.level.ElapsedSecs;
   ++state.settings.SpeedTicks;
   if (state.settings.IncSpeed && state.settings.SpeedTicks % kSpeedUpTicks == 0) SpeedUp(state);

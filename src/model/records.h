@@ -21,10 +21,10 @@ inline constexpr int kCell = 20;
 /// Where a body cell that is not in use is kept: off the screen.
 inline constexpr Point kParked{-20, -20};
 
-/// One cell of a snake's body.
+/// One cell of a snake's body; parked until it is used.
 struct SegRec {
-  Int16 X;
-  Int16 Y;
+  Int16 X = kParked.x;
+  Int16 Y = kParked.y;
   coilrun::Dir Dir = coilrun::Dir::kNone;
 };
 
@@ -44,7 +44,7 @@ struct SnakeRec {
   Int32 StartX;
   Int32 StartY;
   Table<SegRec, kLastSeg + 1, 0> Seg;  ///< Seg(0): the cell that the head has just left
-  SegRec Tail;
+  SegRec Tail{.X = 0, .Y = 0};
   Int32 Score;       ///< points in this level; may be negative
   Int32 TotalScore;  ///< points of all finished levels
   Int16 Lives;

@@ -8,9 +8,7 @@ void ReseedFromClock(State& state) {
 
 void ResetSnakeBody(State& state, int snake) {
   SnakeRec& body = state.Snakes(snake);
-  for (int i = 1; i <= body.Length && i <= kLastSeg; ++i) {
-    body.Seg(i) = {kParked.x, kParked.y, Dir::kNone};
-  }
+  for (int i = 1; i <= kLastSeg; ++i) body.Seg(i) = {};
   body.Length = 1;
   body.Grow = 0;
 }

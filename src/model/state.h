@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "model/level_setting.h"
 #include "model/records.h"
 #include "model/rnd.h"
 #include "model/table.h"
@@ -129,6 +130,7 @@ struct LevelState {
   std::string BkgPic;
   Int16 MapSnakeCount;
   bool UserItemsUsed = false;
+  bool SetsPeriod = false;  ///< the player's normal step period is the level's
   bool UsesRed = false;
   bool UsesBlue = false;
   bool UsesBlack = false;
@@ -138,11 +140,11 @@ struct LevelState {
 };
 
 struct SettingsState {
-  double MinSpeed = 20;   ///< range of a slow-down, ms
-  double MaxSpeed = 250;  ///< shortest step period, ms
-  double SpeedRate = 0.5;
+  LevelSetting<double> MinSpeed = 20;   ///< range of a slow-down, ms
+  LevelSetting<double> MaxSpeed = 250;  ///< shortest step period, ms
+  LevelSetting<double> SpeedRate = 0.5;
   bool NoSpeedReset = false;
-  bool IncSpeed = false;
+  LevelSetting<bool> IncSpeed = false;
   double GlobalSpeed = 100;
   bool AnimatedItems = true;
   bool SndEnabled = true;
@@ -235,7 +237,8 @@ struct State {
 /// Seeds `Rnd` from the clock.
 void ReseedFromClock(State& state);
 
-/// Parks the body cells of a snake and leaves it with one cell and nothing to grow.
+/// Parks the body cells of a snake, those beyond its length too, and leaves it with one cell and
+/// nothing to grow.
 void ResetSnakeBody(State& state, int snake);
 /// Puts every hidden item of the four coloured kinds back.
 void RestoreCollectedItems(State& state);

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "model/shown_model.h"
 #include "render/picture_loader.h"
 
 namespace coilrun {
@@ -49,10 +50,11 @@ class ModelPictures {
   /// flags ask for them; the others are unset.
   void LoadModelPictures(int model);
 
-  /// Unset for a number that stands for no model.
+  /// Those of pack 0 for a number without a pack; unset without any pack.
   const Picture& operator()(int model, ModelPiece piece) const {
-    if (model < 0 || model >= kMaxModelPacks) return unset_;
-    return models_[static_cast<std::size_t>(model)][static_cast<std::size_t>(piece)];
+    const int shown = ShownModel(state_, model);
+    if (shown < 0 || shown >= kMaxModelPacks) return unset_;
+    return models_[static_cast<std::size_t>(shown)][static_cast<std::size_t>(piece)];
   }
 
  private:

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "model/numbers.h"
+#include "model/shown_model.h"
 
 namespace coilrun {
 namespace {
@@ -18,14 +19,18 @@ std::string YesNo(bool value) {
 }
 
 constexpr std::array<OptionsLine, kOptionsLines> kLines = {{
-    {{55, 220}, "Maximum Speed: ", [](const State& s) { return NumberText(s.settings.MaxSpeed); }},
-    {{55, 240}, "Minimum Speed: ", [](const State& s) { return NumberText(s.settings.MinSpeed); }},
-    {{55, 260},
-     "Global Speed: ",
-     [](const State& s) { return NumberText(s.Snakes(1).BaseInterval); }},
+    {{55, 220},
+     "Maximum Speed: ",
+     [](const State& s) { return NumberText(s.settings.MaxSpeed.Own()); }},
+    {{55, 240},
+     "Minimum Speed: ",
+     [](const State& s) { return NumberText(s.settings.MinSpeed.Own()); }},
+    {{55, 260}, "Global Speed: ", [](const State& s) { return NumberText(ShownGlobalSpeed(s)); }},
     {{55, 305}, "No Speed Reset: ", [](const State& s) { return YesNo(s.settings.NoSpeedReset); }},
-    {{55, 325}, "Speed!: ", [](const State& s) { return YesNo(s.settings.IncSpeed); }},
-    {{60, 345}, "Speed rate: ", [](const State& s) { return NumberText(s.settings.SpeedRate); }},
+    {{55, 325}, "Speed!: ", [](const State& s) { return YesNo(s.settings.IncSpeed.Own()); }},
+    {{60, 345},
+     "Speed rate: ",
+     [](const State& s) { return NumberText(s.settings.SpeedRate.Own()); }},
     {{55, 390}, "Show FPS Counter: ", [](const State& s) { return YesNo(s.shell.ShowFPS); }},
     {{50, 415}, "Player Name: ", [](const State& s) { return s.Snakes(1).Name; }},
     {{255, 220}, "3D Items: ", [](const State& s) { return YesNo(s.settings.AnimatedItems); }},
@@ -54,9 +59,14 @@ std::string OptionsLineText(const State& state, int line) {
   return std::string{Line(line).label} + Line(line).value(state);
 }
 
+double ShownGlobalSpeed(const State& state) {
+  return state.level.SetsPeriod ? state.settings.GlobalSpeed : int{state.Snakes(1).BaseInterval};
+}
+
 std::string ModelText(const State& state, int model) {
-  if (!state.ModelPacks.Holds(model)) return {};
-  const ModelPack& pack = state.ModelPacks(model);
+  const int shown = ShownModel(state, model);
+  if (!state.ModelPacks.Holds(shown)) return {};
+  const ModelPack& pack = state.ModelPacks(shown);
   return pack.Name + " by " + pack.Author;
 }
 

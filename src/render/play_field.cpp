@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "model/shown_model.h"
 #include "model/snakes_in_play.h"
 
 namespace coilrun {
@@ -119,7 +120,7 @@ void PlayField::DrawPiece(SnakePiece piece, int model, int x, int y) {
 }
 
 const ModelPack& PlayField::PackOf(const SnakeRec& snake) const {
-  const int model = std::clamp<int>(snake.Model, 0, state_.ModelPacks.kLast);
+  const int model = std::clamp(ShownModel(state_, snake.Model), 0, state_.ModelPacks.kLast);
   return state_.ModelPacks(model);
 }
 

@@ -162,11 +162,11 @@ class FieldTable {
 
   void VisitSettings() const {
     auto& settings = state_.settings;
-    visit_.Field("MinSpeed", settings.MinSpeed);
-    visit_.Field("MaxSpeed", settings.MaxSpeed);
-    visit_.Field("SpeedRate", settings.SpeedRate);
+    VisitSetting("MinSpeed", settings.MinSpeed);
+    VisitSetting("MaxSpeed", settings.MaxSpeed);
+    VisitSetting("SpeedRate", settings.SpeedRate);
     visit_.Field("NoSpeedReset", settings.NoSpeedReset);
-    visit_.Field("IncSpeed", settings.IncSpeed);
+    VisitSetting("IncSpeed", settings.IncSpeed);
     visit_.Field("GlobalSpeed", settings.GlobalSpeed);
     visit_.Field("SpeedGain", settings.SpeedGain);
     visit_.Field("PrevInterval", settings.PrevInterval);
@@ -177,6 +177,20 @@ class FieldTable {
     visit_.Field("MusicVolume", settings.MusicVolume, Range{0, kFullVolume});
     visit_.Field("NoCleanUp", settings.NoCleanUp);
     visit_.Field("NewInstall", settings.NewInstall);
+  }
+
+  /// Shows the value in force. One that is set is the player's own, and the level's no more.
+  template <typename T>
+  void VisitSetting(const char* name, const LevelSetting<T>& setting) const {
+    const T inForce = setting;
+    visit_.Field(name, inForce);
+  }
+  template <typename T>
+  void VisitSetting(const char* name, LevelSetting<T>& setting) const {
+    const T before = setting;
+    T value = before;
+    visit_.Field(name, value);
+    if (value != before) setting = value;
   }
 
   void VisitHiScore() const {

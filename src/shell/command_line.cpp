@@ -67,10 +67,10 @@ void CommandLine::SetKeyboardLayout(std::string_view value) {
 }
 
 void CommandLine::SetStartLevel(std::string_view value) {
+  if (value.empty()) return;
   ModeState& mode = state_.mode;
   mode.StartLevelName = value;
   mode.LevelSwitchGiven = true;
-  if (value.empty()) return;
   mode.StartLevelPath = std::string{kProgramFolder} + "\\lvl\\" + mode.StartLevelName;
   if (files_.Exists(mode.StartLevelPath)) return;
   box_.Show("SetCommand_LoadLevel: Level does not exist!",

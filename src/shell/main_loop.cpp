@@ -114,6 +114,7 @@ void StepAndDrawPlayer(Shell& shell) {
   BeginPlayerStep(shell.game);
   DrawItemsAndWalls(shell, ItemOrder::kTntFirst);
   EndPlayerStep(shell.state);
+  EndSpentImmortality(shell.state);
   shell.renderer.Field().DrawSnake(kPlayer);
 }
 

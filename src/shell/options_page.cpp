@@ -5,6 +5,8 @@
 #include <string_view>
 
 #include "model/numbers.h"
+#include "model/shown_model.h"
+#include "render/options_lines.h"
 
 namespace coilrun {
 namespace {
@@ -37,11 +39,13 @@ void Toggle(const Shell& shell, bool& flag) {
 
 void ApplyGlobalSpeed(Shell& shell) {
   State& state = shell.state;
+  SettingsState& settings = state.settings;
+  double speed = ShownGlobalSpeed(state);
+  StepWithin(shell, speed, 1, settings.MaxSpeed.Own(), settings.MinSpeed.Own());
+  settings.GlobalSpeed = RoundToInt(speed);
+  if (state.level.SetsPeriod) return;
   SnakeRec& player = state.Snakes(kPlayer);
-  double speed = player.BaseInterval;
-  StepWithin(shell, speed, 1, state.settings.MaxSpeed, state.settings.MinSpeed);
   player.BaseInterval = RoundToInt(speed);
-  state.settings.GlobalSpeed = player.BaseInterval;
   state.timers.SetInterval(state.timers.iWait(0), player.BaseInterval);
 }
 
@@ -70,21 +74,21 @@ void ApplyModel(Shell& shell) {
   State& state = shell.state;
   const int step = state.menus.MenuAction == MenuAction::kCycle ? 1 : Step(shell);
   Int16& model = state.Snakes(kPlayer).Model;
-  model = std::max(std::min<int>(model + step, state.LastModel), 0);
+  model = std::max(std::min<int>(ShownModel(state, model) + step, state.LastModel), 0);
 }
 
 constexpr std::array<Line, kLines> kOptions = {{
     {"Set the maximum game speed [10fast - 60slow]",
-     [](Shell& s) { StepWithin(s, s.state.settings.MaxSpeed, 1, 10, 60); }},
+     [](Shell& s) { StepWithin(s, s.state.settings.MaxSpeed.Own(), 1, 10, 60); }},
     {"Set the minimum game speed [100fast - 250slow]",
-     [](Shell& s) { StepWithin(s, s.state.settings.MinSpeed, 1, 100, 250); }},
+     [](Shell& s) { StepWithin(s, s.state.settings.MinSpeed.Own(), 1, 100, 250); }},
     {"Set the global game speed [maximum and minumem set above]", ApplyGlobalSpeed},
     {"Will cause the game not to reset the speed after you collected a banana [Yes/No]",
      [](Shell& s) { Toggle(s, s.state.settings.NoSpeedReset); }, true},
     {"Increase the game speed every 2 seconds [Yes/No]",
-     [](Shell& s) { Toggle(s, s.state.settings.IncSpeed); }, true},
+     [](Shell& s) { Toggle(s, s.state.settings.IncSpeed.Own()); }, true},
     {"Set the speed increase value [0.5 - 30] (Speed will increase by it every 2 seconds)",
-     [](Shell& s) { StepWithin(s, s.state.settings.SpeedRate, 0.5, 0.5, 30); }, true},
+     [](Shell& s) { StepWithin(s, s.state.settings.SpeedRate.Own(), 0.5, 0.5, 30); }, true},
     {"Show an FPS counter in the top right edge [Yes/No]",
      [](Shell& s) { Toggle(s, s.state.shell.ShowFPS); }},
     {"Type your name (14 chars max.) Press enter to clear", ApplyPlayerName},

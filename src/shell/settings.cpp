@@ -22,8 +22,12 @@ class Reader {
   Reader(const SettingsStore& store, std::string_view section) : store_(store), section_(section) {}
 
   void Number(std::string_view key, double& value, double fallback) const {
-    const auto text = store_.Get(section_, key);
-    value = text ? LeadingNumber(*text, true) : fallback;
+    value = NumberOr(key, fallback);
+  }
+  /// A step period or a range of them: one that no snake can have counts as missing.
+  double Speed(std::string_view key, double fallback) const {
+    const double speed = NumberOr(key, fallback);
+    return speed >= 1 ? speed : fallback;
   }
   void Integer(std::string_view key, Int16& value, int fallback) const {
     const auto text = store_.Get(section_, key);
@@ -39,8 +43,18 @@ class Reader {
     const auto text = store_.Get(section_, key);
     value = text ? ToBoolean(*text).value_or(value) : fallback;
   }
-  void Text(std::string_view key, std::string& value, std::string_view fallback) const {
-    value = store_.Get(section_, key).value_or(std::string{fallback});
+  void IntegerWithin(std::string_view key, Int16& value, int fallback, int lowest,
+                     int highest) const {
+    Integer(key, value, fallback);
+    if (value < lowest || value > highest) value = fallback;
+  }
+  void Name(std::string_view key, std::string& value) const {
+    value = store_.Get(section_, key).value_or("Unknown").substr(0, kLongestName);
+  }
+
+  double NumberOr(std::string_view key, double fallback) const {
+    const auto text = store_.Get(section_, key);
+    return text ? LeadingNumber(*text, true) : fallback;
   }
 
  private:
@@ -51,23 +65,26 @@ class Reader {
 void LoadTweaks(State& state, const SettingsStore& store) {
   SettingsState& settings = state.settings;
   const Reader tweak(store, kTweak);
-  tweak.Number("MinSpeed", settings.MinSpeed, 20);
-  tweak.Number("MaxSpeed", settings.MaxSpeed, 250);
+  settings.MinSpeed = tweak.Speed("MinSpeed", 20);
+  settings.MaxSpeed = tweak.Speed("MaxSpeed", 250);
   if (IsMultiplayer(state.mode.GameMode)) {
     settings.SpeedRate = 0.5;
     settings.NoSpeedReset = true;
     settings.IncSpeed = false;
   } else {
-    tweak.Number("Speed", settings.SpeedRate, 0.5);
+    settings.SpeedRate = tweak.NumberOr("Speed", 0.5);
     tweak.Boolean("RsetSpeed", settings.NoSpeedReset, false);
-    tweak.Boolean("IncSpeed", settings.IncSpeed, false);
+    bool increase = settings.IncSpeed.Own();
+    tweak.Boolean("IncSpeed", increase, false);
+    settings.IncSpeed = increase;
   }
 }
 
 void LoadOptions(State& state, const SettingsStore& store) {
   SettingsState& settings = state.settings;
   const Reader options(store, kOptions);
-  options.Number("gSpeed", settings.GlobalSpeed, 100);
+  settings.GlobalSpeed = options.Speed("gSpeed", 100);
+  state.level.SetsPeriod = false;
   if (const auto interval = ToInt16(settings.GlobalSpeed)) {
     for (SnakeRec& snake : state.Snakes) snake.BaseInterval = *interval;
   }
@@ -76,20 +93,18 @@ void LoadOptions(State& state, const SettingsStore& store) {
   options.Boolean("SndEnabled", settings.SndEnabled, true);
   options.Boolean("KiSndEnabled", settings.KiSndEnabled, true);
   options.Boolean("MusicEnabled", settings.MusicEnabled, true);
-  options.Integer("MusicVolume", settings.MusicVolume, 30);
-  settings.MusicVolume = std::clamp<int>(settings.MusicVolume, 0, 100);
+  options.IntegerWithin("MusicVolume", settings.MusicVolume, 30, 0, 100);
   options.Boolean("NoCleanUp", settings.NoCleanUp, false);
   options.Boolean("NewInstall", settings.NewInstall, true);
-  options.Text("Player Name", state.Snakes(1).Name, "Unknown");
-  options.Integer("Player Color", state.Snakes(1).Model, 1);
+  options.Name("Player Name", state.Snakes(1).Name);
+  options.IntegerWithin("Player Color", state.Snakes(1).Model, 1, 0, Int16::kMax);
 }
 
 void LoadHiScores(State& state, const SettingsStore& store) {
   const Reader scores(store, kHiScore);
   for (int place = 1; place <= kHiScores; ++place) {
     HiScoreEntry& entry = state.HiScore(place);
-    scores.Text(std::to_string(place) + "Name", entry.Name, "Unknown");
-    entry.Name.resize(std::min(entry.Name.size(), kLongestName));
+    scores.Name(std::to_string(place) + "Name", entry.Name);
     scores.Number(std::to_string(place) + "Score", entry.Score, DefaultScore(place));
   }
 }
@@ -104,12 +119,12 @@ void LoadSettings(State& state, const SettingsStore& store) {
 
 bool SaveSettings(const State& state, SettingsStore& store) {
   const SettingsState& settings = state.settings;
-  store.Set(kTweak, "MinSpeed", NumberText(settings.MinSpeed));
-  store.Set(kTweak, "MaxSpeed", NumberText(settings.MaxSpeed));
+  store.Set(kTweak, "MinSpeed", NumberText(settings.MinSpeed.Own()));
+  store.Set(kTweak, "MaxSpeed", NumberText(settings.MaxSpeed.Own()));
   if (!IsMultiplayer(state.mode.GameMode)) {
-    store.Set(kTweak, "Speed", NumberText(settings.SpeedRate));
+    store.Set(kTweak, "Speed", NumberText(settings.SpeedRate.Own()));
     store.Set(kTweak, "RsetSpeed", BooleanText(settings.NoSpeedReset));
-    store.Set(kTweak, "IncSpeed", BooleanText(settings.IncSpeed));
+    store.Set(kTweak, "IncSpeed", BooleanText(settings.IncSpeed.Own()));
   }
   store.Set(kOptions, "gSpeed", NumberText(settings.GlobalSpeed));
   store.Set(kOptions, "Show FPS", BooleanText(state.shell.ShowFPS));

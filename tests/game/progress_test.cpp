@@ -131,6 +131,15 @@ TEST(CheckTimeLimit, RespawnsWithoutADeath) {
   }
 }
 
+TEST(CheckTimeLimit, AMatchGoesOn) {
+  Field field;
+  field.Put(1, {300, 300});
+  field.state.mode.GameMode = GameMode::kDeathmatch;
+  field.state.level.Timeout = field.state.level.ElapsedSecs = 60;
+  EXPECT_EQ(field.After(CheckTimeLimit),
+            "1.At=100,100 1.Dir=none 1.NextDir=none ElapsedSecs=0 WaitingForStart=1 lvlTime=1");
+}
+
 TEST(StartNewGame, ClearsCheatsAndLoadsTheFirstLevel) {
   Field field;
   ModeState& mode = field.state.mode;

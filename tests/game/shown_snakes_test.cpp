@@ -48,6 +48,15 @@ TEST(SnakesShown, OneToggleServesAllAndFewSecondsHide) {
   }
 }
 
+TEST(EndSpentImmortality, EndsItInPassesWithoutABlinkToo) {
+  Blinking over(0);
+  over.Snake(2).ImmortalSecs = 1;
+  EndSpentImmortality(over.state);
+  EXPECT_TRUE(over.Snake(2).Immortal);
+  EXPECT_FALSE(over.Snake(4).Immortal);
+  EXPECT_THAT(over.Feed(), testing::ElementsAre("Bot4 is no longer immortal!"));
+}
+
 TEST(SnakesShown, AWaitingSnakeEndsTheLoopsWalkAndIsSkippedInAFrame) {
   Blinking field(9);
   field.state.shell.WaitingForStart = true;

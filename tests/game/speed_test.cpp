@@ -14,7 +14,14 @@ TEST(TickSecond, CountsImmortalityAndTheRunningClock) {
   EXPECT_EQ(field.Snake(2).ImmortalSecs, 4);
   EXPECT_EQ(field.Snake(3).ImmortalSecs, 5) << "not in play";
   EXPECT_EQ(field.state.level.ElapsedSecs, 0) << "the clock stands";
-  field.state.shell.lvlTime = true;
+  ShellState& shell = field.state.shell;
+  shell.lvlTime = true;
+  for (bool ShellState::*const stops : {&ShellState::IsPause, &ShellState::InMenu}) {
+    shell.*stops = true;
+    TickSecond(field.state);
+    EXPECT_EQ(field.state.level.ElapsedSecs, 0) << "the game stands";
+    shell.*stops = false;
+  }
   field.state.level.ElapsedSecs = 32000;
   for (int tick = 0; tick < 3; ++tick) TickSecond(field.state);
   EXPECT_EQ(field.state.level.ElapsedSecs, 32001);

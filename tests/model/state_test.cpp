@@ -2,12 +2,14 @@
 
 #include <stdexcept>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "model/feed.h"
+#include "model/shown_model.h"
 
 namespace coilrun {
 namespace {
@@ -41,10 +43,11 @@ TEST(ConsolePrint, EndsLinesAndTellsTheFeedInDebugMode) {
   EXPECT_EQ(state.feed.MsgLines(1), "loud\r\n");
 }
 
-TEST(ResetSnakeBody, ParksTheCellsInUse) {
+TEST(ResetSnakeBody, ParksAllCellsButTheNeck) {
   State state;
   SnakeRec& snake = state.Snakes(2);
-  snake.Length = 150;
+  EXPECT_EQ(snake.Seg(0).X, -20) << "never used";
+  snake.Length = 7;
   snake.Grow = 3;
   for (SegRec& seg : snake.Seg) seg = {100, 100, Dir::kFL};
   ResetSnakeBody(state, 2);
@@ -53,6 +56,15 @@ TEST(ResetSnakeBody, ParksTheCellsInUse) {
   EXPECT_EQ(snake.Seg(0).X, 100);
   EXPECT_EQ(snake.Seg(100).X, -20);
   EXPECT_EQ(snake.Seg(1).Dir, Dir::kNone);
+}
+
+TEST(ShownModel, ANumberWithoutAPackShowsTheFirst) {
+  State state;
+  EXPECT_EQ(ShownModel(state, 5), 5) << "no pack at all";
+  state.LastModel = 2;
+  for (const auto& [model, shown] : {std::pair{0, 0}, {2, 2}, {3, 0}, {99, 0}, {-1, 0}}) {
+    EXPECT_EQ(ShownModel(state, model), shown) << model;
+  }
 }
 
 TEST(Rnd, GivesTheSameNumbersEverywhere) {

@@ -72,7 +72,7 @@ TEST(CommandLine, SwitchesSetTheMode) {
                       {"/KM=DE", "keys DE"},
                       {"/KM=FR", ""},
                       {"/L=lvl3.dat /Debug", "level .\\lvl\\lvl3.dat debug"},
-                      {"/L=", "level "},
+                      {"/L=", ""},
                       {"/NoClean=TRUE", " dirty"},
                       {"/NoClean=perhaps", ""},
                       {"xyz /Debug", " debug"}};

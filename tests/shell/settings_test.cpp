@@ -44,6 +44,31 @@ TEST(LoadSettings, ValuesThatCannotBeConvertedLeaveWhatTheyFill) {
   EXPECT_EQ(state.HiScore(2).Name, "a name of twen");
 }
 
+TEST(LoadSettings, ValuesThatNoRuleCanUseTakeTheirDefaults) {
+  for (const char* const unusable : {"0", "-5", "0.9", "nan"}) {
+    MemorySettings store;
+    for (const char* const key : {"MinSpeed", "MaxSpeed"}) store.Set("Tweak", key, unusable);
+    store.Set("Options", "gSpeed", unusable);
+    State state;
+    LoadSettings(state, store);
+    EXPECT_EQ(state.settings.MinSpeed, 20) << unusable;
+    EXPECT_EQ(state.settings.MaxSpeed, 250) << unusable;
+    EXPECT_EQ(state.settings.GlobalSpeed, 100) << unusable;
+    EXPECT_EQ(state.Snakes(16).BaseInterval, 100) << unusable;
+  }
+  MemorySettings store;
+  store.Set("Options", "Player Color", "-1");
+  store.Set("Options", "Player Name", "The longest name");
+  State state;
+  for (const char* const volume : {"-1", "101"}) {
+    store.Set("Options", "MusicVolume", volume);
+    LoadSettings(state, store);
+    EXPECT_EQ(state.settings.MusicVolume, 30) << volume;
+  }
+  EXPECT_EQ(state.Snakes(1).Model, 1);
+  EXPECT_EQ(state.Snakes(1).Name, "The longest na");
+}
+
 TEST(LoadSettings, TheMultiplayerModesFixTheSpeedTweaks) {
   MemorySettings store;
   store.Set("Tweak", "Speed", "3");
@@ -59,6 +84,25 @@ TEST(LoadSettings, TheMultiplayerModesFixTheSpeedTweaks) {
   EXPECT_EQ(store.Get("Tweak", "Speed"), "3") << "the stored tweaks are left alone";
 }
 
+TEST(SaveSettings, TheLevelsOwnSpeedsAreNotStored) {
+  MemorySettings store;
+  State state;
+  LoadSettings(state, store);
+  SettingsState& settings = state.settings;
+  for (auto* const speed : {&settings.MinSpeed, &settings.MaxSpeed, &settings.SpeedRate}) {
+    speed->ReplaceForLevel(77);
+  }
+  settings.IncSpeed.ReplaceForLevel(true);
+  settings.MaxSpeed.Own() = 40;
+  EXPECT_EQ(settings.MaxSpeed, 77) << "holds for the level, whatever the player chooses";
+  SaveSettings(state, store);
+  LoadSettings(state, store);
+  EXPECT_EQ(settings.MinSpeed, 20);
+  EXPECT_EQ(settings.MaxSpeed, 40);
+  EXPECT_EQ(settings.SpeedRate, 0.5);
+  EXPECT_FALSE(settings.IncSpeed);
+}
+
 TEST(SaveSettings, WhatIsSavedIsFoundAgain) {
   MemorySettings store;
   State saved;
@@ -66,7 +110,7 @@ TEST(SaveSettings, WhatIsSavedIsFoundAgain) {
   saved.settings.MinSpeed = 120;
   saved.settings.MaxSpeed = 41;
   saved.settings.SndEnabled = false;
-  saved.settings.MusicVolume = 250;
+  saved.settings.MusicVolume = 100;
   saved.settings.SpeedRate = 1.5;
   saved.settings.IncSpeed = true;
   saved.settings.AnimatedItems = false;
@@ -81,7 +125,7 @@ TEST(SaveSettings, WhatIsSavedIsFoundAgain) {
   EXPECT_EQ(found.settings.MinSpeed, 120);
   EXPECT_EQ(found.settings.MaxSpeed, 41);
   EXPECT_FALSE(found.settings.SndEnabled);
-  EXPECT_EQ(found.settings.MusicVolume, 100) << "as loud as it goes";
+  EXPECT_EQ(found.settings.MusicVolume, 100);
   EXPECT_EQ(found.settings.SpeedRate, 1.5);
   EXPECT_TRUE(found.settings.IncSpeed);
   EXPECT_FALSE(found.settings.AnimatedItems);

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "model/state.h"
+
+namespace coilrun {
+
+/// The pack that a snake of this model is shown with: a number without a pack shows the first one.
+inline int ShownModel(const State& state, int model) {
+  const bool hasPack = 0 <= model && model <= state.LastModel;
+  return hasPack || state.LastModel < 0 ? model : 0;
+}
+
+}  // namespace coilrun
