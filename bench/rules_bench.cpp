@@ -15,6 +15,7 @@ class SilentHost : public GameHost {
   void LoadLevel(const std::string&) override {}
   void RunMenus() override {}
   void LoadSettings() override {}
+  void RefreshHighScores() override {}
   void SaveSettings() override {}
 };
 

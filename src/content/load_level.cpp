@@ -170,6 +170,7 @@ void ResetLevelState(const ContentContext& context) {
   ResetProperties(state);
   context.host.LoadSettings();
   state.level.BkgPic = "\\gfx\\bkg_standart.bmp";
+  state.music.refused.clear();
   ResetMenus(state.menus);
 }
 

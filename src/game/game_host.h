@@ -20,6 +20,8 @@ class GameHost {
   /// Runs the menus until they are left.
   virtual void RunMenus() = 0;
   virtual void LoadSettings() = 0;
+  /// Takes in the high scores that another running game has stored meanwhile.
+  virtual void RefreshHighScores() = 0;
   virtual void SaveSettings() = 0;
 };
 

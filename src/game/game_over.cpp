@@ -67,11 +67,13 @@ void LeaveGame(State& state) {
 
 void CheckGameOver(Game& game) {
   if (game.state.Snakes(kPlayer).Lives >= 0) return;
+  game.host.RefreshHighScores();
   GameOverScreen(game);
   LeaveGame(game.state);
 }
 
 void FinishGame(Game& game) {
+  game.host.RefreshHighScores();
   HiScoreEntry* const beaten = BeatenEntry(game.state);
   if (beaten != nullptr && !game.state.mode.Cheated) StoreHighScore(game, *beaten);
   LeaveGame(game.state);

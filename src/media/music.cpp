@@ -20,12 +20,21 @@ void Music::Check() {
   if (wanted.empty()) {
     snStopMusic();
   } else if (state_.music.CurrentMusic != wanted || !state_.music.MusicPlaying) {
-    snStopMusic();
-    if (!snLoadMusic(wanted)) return;
-    snPlayMusic(true, 0);
-    snMusicVolume(state_.settings.MusicVolume);
+    Change(wanted);
   } else if (state_.music.MusicLoop) {
     MusicEndCheck();
+  }
+}
+
+void Music::Change(const std::string& wanted) {
+  snStopMusic();
+  if (state_.music.refused == wanted) return;
+  if (snLoadMusic(wanted)) {
+    snPlayMusic(true, 0);
+    snMusicVolume(state_.settings.MusicVolume);
+  } else {
+    state_.music.refused = wanted;
+    ConsolePrint(state_, "snLoadMusic: unable to play " + wanted);
   }
 }
 

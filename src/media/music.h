@@ -16,7 +16,7 @@ class Music {
   /// Starts, changes, restarts or stops the music so that it fits the level.
   void Check();
 
-  /// True when the file was loaded; nothing is said when not, and the check tries again.
+  /// True when the file was loaded; nothing is said when not.
   bool snLoadMusic(const std::string& path);
   /// Plays from `position` in seconds, when music is enabled.
   void snPlayMusic(bool loop, double position);
@@ -28,6 +28,8 @@ class Music {
   bool Loaded() const { return !state_.music.CurrentMusic.empty(); }
 
  private:
+  void Change(const std::string& wanted);
+
   State& state_;
   Files& files_;
   MusicOut& out_;

@@ -178,6 +178,7 @@ struct SoundStart {
 
 struct MusicState {
   std::string CurrentMusic;
+  std::string refused;  ///< could not be played; not tried again in this level
   bool MusicPlaying = false;
   bool MusicLoop = false;
   int Volume = 0;  ///< hundredths of a decibel

@@ -1,6 +1,7 @@
 #include "platform/atomic_file.h"
 
-#include <system_error>
+#include <cerrno>
+#include <span>
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -14,6 +15,10 @@ namespace {
 
 namespace fs = std::filesystem;
 
+std::error_code LastError() {
+  return {errno, std::generic_category()};
+}
+
 /// Whether the open file is still the one of that name.
 bool IsSame(const FileHandle& file, const fs::path& name) {
   struct stat open {};
@@ -22,14 +27,33 @@ bool IsSame(const FileHandle& file, const fs::path& name) {
          open.st_dev == named.st_dev && open.st_ino == named.st_ino;
 }
 
+bool IsRegular(const FileHandle& file) {
+  struct stat status {};
+  return fstat(file.Descriptor(), &status) == 0 && S_ISREG(status.st_mode);
+}
+
 /// The temporary file, ours alone while it is open: two running games must not mix theirs. One left
 /// behind by a crash is taken over.
 FileHandle OpenTemporary(const fs::path& temporary) {
   while (true) {
-    FileHandle file(temporary, O_WRONLY | O_CREAT | O_NOFOLLOW);
-    if (!file.IsOpen() || flock(file.Descriptor(), LOCK_EX) != 0) return {};
+    // A pipe of that name would otherwise wait for a reader.
+    FileHandle file(temporary, O_WRONLY | O_CREAT | O_NOFOLLOW | O_NONBLOCK);
+    if (!file.IsOpen()) return {};
+    if (!IsRegular(file)) {
+      errno = EEXIST;
+      return {};
+    }
+    if (flock(file.Descriptor(), LOCK_EX) != 0) return {};
     if (IsSame(file, temporary)) return file;
   }
+}
+
+/// Gives the new file the owner, as far as that is allowed, and the permissions of the old one.
+void TakeOver(const FileHandle& file, const fs::path& old) {
+  struct stat status {};
+  if (stat(old.c_str(), &status) != 0) return;
+  [[maybe_unused]] const int given = fchown(file.Descriptor(), status.st_uid, status.st_gid);
+  fchmod(file.Descriptor(), status.st_mode & ACCESSPERMS);
 }
 
 /// Makes a new name last. Not all file systems can; there is nothing to do about it.
@@ -38,9 +62,15 @@ void SyncFolder(const fs::path& folder) {
   if (handle.IsOpen()) fsync(handle.Descriptor());
 }
 
+bool WriteWhole(const FileHandle& file, std::string_view contents) {
+  return ftruncate(file.Descriptor(), 0) == 0 &&
+         file.WriteAll(std::as_bytes(std::span(contents))) && fsync(file.Descriptor()) == 0;
+}
+
 }  // namespace
 
-bool ReplaceFile(const fs::path& file, std::string_view contents) {
+std::error_code ReplaceFile(const fs::path& file,
+                            const std::function<std::optional<std::string>()>& contents) {
   std::error_code error;
   // A link to the file stays a link.
   const fs::path canonical = fs::weakly_canonical(file, error);
@@ -48,16 +78,17 @@ bool ReplaceFile(const fs::path& file, std::string_view contents) {
   fs::create_directories(target.parent_path(), error);
   const fs::path temporary = target.native() + ".new";
   const FileHandle handle = OpenTemporary(temporary);
-  if (!handle.IsOpen()) return false;
-  const bool whole = ftruncate(handle.Descriptor(), 0) == 0 &&
-                     handle.WriteAll(std::as_bytes(std::span(contents))) &&
-                     fsync(handle.Descriptor()) == 0;
-  if (!whole || rename(temporary.c_str(), target.c_str()) != 0) {
+  if (!handle.IsOpen()) return LastError();
+  TakeOver(handle, target);
+  const auto text = contents();
+  errno = ECANCELED;
+  if (!text || !WriteWhole(handle, *text) || rename(temporary.c_str(), target.c_str()) != 0) {
+    const std::error_code problem = LastError();
     unlink(temporary.c_str());
-    return false;
+    return problem;
   }
   SyncFolder(target.parent_path());
-  return true;
+  return {};
 }
 
 }  // namespace coilrun

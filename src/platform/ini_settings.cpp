@@ -20,18 +20,25 @@ constexpr std::size_t kSizeLimit = std::size_t{1} << 20U;
 
 /// The contents of an INI file, or what is wrong with it. A missing file is an empty one.
 struct IniFile {
-  std::string text;
-  std::optional<std::string> damage;
+  std::string text{};
+  std::optional<std::string> damage{};
+  std::optional<std::string> unreadable{};
 };
+
+IniFile Unreadable(int errorNumber) {
+  return {.unreadable = std::generic_category().message(errorNumber)};
+}
 
 IniFile ReadIni(const fs::path& file) {
   const FileHandle handle(file, O_RDONLY | O_NONBLOCK);
   if (!handle.IsOpen() && (errno == ENOENT || errno == ENOTDIR)) return {};
+  if (!handle.IsOpen()) return Unreadable(errno);
   std::error_code error;
+  if (!fs::is_regular_file(file, error)) return {.unreadable = "it is no file"};
+  if (fs::file_size(file, error) > kSizeLimit) return {.damage = "it is larger than 1 MiB"};
   Bytes bytes;
-  if (!handle.IsOpen() || !fs::is_regular_file(file, error) || !handle.ReadAll(bytes, kSizeLimit))
-    return {"", "it cannot be read, or is larger than 1 MiB"};
-  IniFile ini{std::string(bytes.begin(), bytes.end()), std::nullopt};
+  if (!handle.ReadAll(bytes, kSizeLimit)) return Unreadable(errno);
+  IniFile ini{.text = std::string(bytes.begin(), bytes.end())};
   ini.damage = FindIniDamage(ini.text);
   return ini;
 }
@@ -56,6 +63,15 @@ struct IniSettings::Store {
     if (value == nullptr) return std::nullopt;
     return FromUtf8(UnquoteIniValue(value));
   }
+  void Set(std::string_view section, std::string_view key, std::string_view value) {
+    ini.SetValue(ToUtf8(section).c_str(), ToUtf8(key).c_str(),
+                 ToUtf8(QuoteIniValue(value)).c_str());
+  }
+  std::string Text() const {
+    std::string text;
+    ini.Save(text);
+    return text;
+  }
 
   CSimpleIniA ini;
 };
@@ -63,26 +79,33 @@ struct IniSettings::Store {
 IniSettings::IniSettings(fs::path file, const fs::path& defaults, Report report)
     : file_(std::move(file)),
       report_(std::move(report)),
-      store_(std::make_unique<Store>()),
+      store_(ReadStore()),
       defaults_(std::make_unique<Store>()) {
-  LoadStore();
+  if (!store_) store_ = std::make_unique<Store>();
   const IniFile shipped = ReadIni(defaults);
-  if (shipped.damage) {
-    report_("The default settings " + defaults.string() + " are left out: " + *shipped.damage);
-  } else {
-    defaults_->ini.LoadData(shipped.text);
-  }
+  const auto problem = shipped.damage ? shipped.damage : shipped.unreadable;
+  if (problem) report_("The default settings " + defaults.string() + " are left out: " + *problem);
+  if (!problem) defaults_->ini.LoadData(shipped.text);
 }
 
 IniSettings::~IniSettings() = default;
 
-void IniSettings::LoadStore() {
+/// The store as it is on disk; nothing when there is none that can be read.
+std::unique_ptr<IniSettings::Store> IniSettings::ReadStore() {
   const IniFile stored = ReadIni(file_);
-  if (stored.damage) {
-    SetAside(*stored.damage);
-  } else if (store_->ini.LoadData(stored.text) < 0) {
-    SetAside("it cannot be taken apart");
+  if (stored.unreadable) {
+    Fails("The settings file " + file_.string() + " cannot be read: " + *stored.unreadable +
+          "; no settings will be saved");
+    overwritingAllowed_ = false;
+    return nullptr;
   }
+  auto store = std::make_unique<Store>();
+  if (!stored.damage && store->ini.LoadData(stored.text) >= 0) {
+    onDisk_ = stored.text;
+    return store;
+  }
+  SetAside(stored.damage.value_or("it cannot be taken apart"));
+  return nullptr;
 }
 
 void IniSettings::SetAside(const std::string& reason) {
@@ -102,15 +125,48 @@ std::optional<std::string> IniSettings::Get(std::string_view section, std::strin
 
 void IniSettings::Set(std::string_view section, std::string_view key, std::string_view value) {
   if (store_->Get(section, key) == std::string(value)) return;
-  store_->ini.SetValue(ToUtf8(section).c_str(), ToUtf8(key).c_str(),
-                       ToUtf8(QuoteIniValue(value)).c_str());
+  store_->Set(section, key, value);
+  changed_.emplace(section, key);
+}
+
+void IniSettings::CarryChangesInto(Store& store) const {
+  for (const auto& [section, key] : changed_) {
+    if (const auto value = store_->Get(section, key)) store.Set(section, key, *value);
+  }
+}
+
+bool IniSettings::Refresh() {
+  if (!overwritingAllowed_) return false;
+  const std::string known = onDisk_;
+  auto stored = ReadStore();
+  if (!stored || onDisk_ == known) return false;
+  CarryChangesInto(*stored);
+  store_ = std::move(stored);
+  return true;
 }
 
 bool IniSettings::Save() {
   if (!overwritingAllowed_) return false;
-  std::string text;
-  if (store_->ini.Save(text) >= 0 && ReplaceFile(file_, text)) return true;
-  if (!failureReported_) report_("The settings cannot be written to " + file_.string());
+  const std::error_code error = ReplaceFile(file_, [this] { return TextToSave(); });
+  if (!error) {
+    changed_.clear();
+    return true;
+  }
+  if (!overwritingAllowed_) return false;
+  return Fails("The settings cannot be written to " + file_.string() + ": " + error.message());
+}
+
+/// The store on disk with what this instance has changed; nothing when it must not be overwritten.
+std::optional<std::string> IniSettings::TextToSave() {
+  const auto stored = ReadStore();
+  if (!overwritingAllowed_) return std::nullopt;
+  if (stored) CarryChangesInto(*stored);
+  onDisk_ = stored ? stored->Text() : store_->Text();
+  return onDisk_;
+}
+
+bool IniSettings::Fails(const std::string& reason) {
+  if (!failureReported_) report_(reason);
   failureReported_ = true;
   return false;
 }

@@ -16,8 +16,10 @@ class SettingsStore {
   virtual std::optional<std::string> Get(std::string_view section, std::string_view key) const = 0;
   /// Changes a value in memory; `Save` makes it last.
   virtual void Set(std::string_view section, std::string_view key, std::string_view value) = 0;
-  /// Writes the whole store; after a crash at any moment the old or the new one is there. False
-  /// when it cannot be written.
+  /// Takes in what another running instance has stored meanwhile. True when that was anything.
+  virtual bool Refresh() = 0;
+  /// Writes what was changed into the store as it is by now; after a crash at any moment the old or
+  /// the new one is there. False when it cannot be written.
   virtual bool Save() = 0;
 };
 

@@ -54,8 +54,13 @@ void Program::LoadLevel(const std::string& path) {
 }
 
 void Program::LoadSettings() {
+  ports_.settings.Refresh();
   coilrun::LoadSettings(state_, ports_.settings);
   music_.snMusicVolume(state_.settings.MusicVolume);
+}
+
+void Program::RefreshHighScores() {
+  if (ports_.settings.Refresh()) LoadHiScores(state_, ports_.settings);
 }
 
 void Program::SaveSettings() {

@@ -37,6 +37,7 @@ class Program final : private GameHost,
   void LoadLevel(const std::string& path) override;
   void RunMenus() override;
   void LoadSettings() override;
+  void RefreshHighScores() override;
   void SaveSettings() override;
 
   void StoreSetting(const std::string& key, const std::string& value) override;

@@ -100,6 +100,8 @@ void LoadOptions(State& state, const SettingsStore& store) {
   options.IntegerWithin("Player Color", state.Snakes(1).Model, 1, 0, Int16::kMax);
 }
 
+}  // namespace
+
 void LoadHiScores(State& state, const SettingsStore& store) {
   const Reader scores(store, kHiScore);
   for (int place = 1; place <= kHiScores; ++place) {
@@ -108,8 +110,6 @@ void LoadHiScores(State& state, const SettingsStore& store) {
     scores.Number(std::to_string(place) + "Score", entry.Score, DefaultScore(place));
   }
 }
-
-}  // namespace
 
 void LoadSettings(State& state, const SettingsStore& store) {
   LoadTweaks(state, store);

@@ -11,6 +11,7 @@ namespace coilrun {
 /// one that cannot be converted leaves what it should fill as it is. In the multiplayer modes the
 /// speed tweaks are fixed.
 void LoadSettings(State& state, const SettingsStore& store);
+void LoadHiScores(State& state, const SettingsStore& store);
 /// Writes them all back and saves the store; false when it cannot be written.
 bool SaveSettings(const State& state, SettingsStore& store);
 

@@ -47,6 +47,7 @@ class RecordingHost : public GameHost {
     calls.emplace_back("load");
     for (SnakeRec& snake : state_.Snakes) snake.BaseInterval = storedInterval;
   }
+  void RefreshHighScores() override {}
   void SaveSettings() override { calls.emplace_back("save"); }
 
   std::vector<std::string> calls;

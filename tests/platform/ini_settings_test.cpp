@@ -5,9 +5,12 @@
 #include <csignal>
 #include <random>
 #include <thread>
+#include <utility>
+#include <vector>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 
 #include "platform/support.h"
@@ -15,6 +18,7 @@
 namespace coilrun {
 namespace {
 
+using testing::Contains;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
@@ -104,12 +108,87 @@ TEST_F(IniSettingsTest, ADamagedFileIsSetAsideAndToldOnce) {
   }
 }
 
-TEST_F(IniSettingsTest, AFileThatCannotBeReadIsNotOverwritten) {
+TEST_F(IniSettingsTest, AFileThatCannotBeReadIsNeitherSetAsideNorOverwritten) {
   std::filesystem::create_directories(file_ / "a folder in its place");
   IniSettings settings = Open();
-  EXPECT_TRUE(settings.Save());
-  EXPECT_TRUE(std::filesystem::is_directory(file_.string() + ".damaged"));
+  settings.Set("Options", "X", "2");
+  EXPECT_FALSE(settings.Save());
+  EXPECT_TRUE(std::filesystem::is_directory(file_));
+  EXPECT_FALSE(std::filesystem::exists(file_.string() + ".damaged"));
   EXPECT_THAT(reports_, ElementsAre(HasSubstr("cannot be read")));
+}
+
+/// As many open files as the process may have, closed again at the end.
+class NoMoreFiles {
+ public:
+  NoMoreFiles() {
+    for (int file = dup(0); file >= 0; file = dup(0)) files_.push_back(file);
+  }
+  ~NoMoreFiles() {
+    for (const int file : files_) close(file);
+  }
+  NoMoreFiles(const NoMoreFiles&) = delete;
+  NoMoreFiles& operator=(const NoMoreFiles&) = delete;
+
+ private:
+  std::vector<int> files_;
+};
+
+TEST_F(IniSettingsTest, WithTooManyOpenFilesTheSettingsStayAsTheyAre) {
+  Put(file_, "[Options]\nX = 1\n");
+  {
+    const NoMoreFiles full;
+    IniSettings settings = Open();
+    settings.Set("Options", "X", "2");
+    EXPECT_FALSE(settings.Save());
+  }
+  EXPECT_EQ(Contents(file_), "[Options]\nX = 1\n");
+  EXPECT_THAT(reports_, Contains(HasSubstr("no settings will be saved")));
+}
+
+TEST_F(IniSettingsTest, InstancesThatShareAFileKeepEachOthersChanges) {
+  Put(file_, "[Options]\nVolume = 1\nName = A\nFPS = True\n");
+  IniSettings first = Open();
+  IniSettings second = Open();
+  first.Set("Options", "Volume", "2");
+  EXPECT_TRUE(first.Save());
+  EXPECT_FALSE(first.Refresh()) << "its own change is no news";
+  second.Set("Options", "Name", "B");
+  EXPECT_TRUE(second.Save());
+  // As the game saves: every value, most of them as they were read.
+  for (const auto& [key, value] : {std::pair{"Volume", "2"}, {"Name", "A"}, {"FPS", "False"}})
+    first.Set("Options", key, value);
+  EXPECT_TRUE(first.Save());
+  EXPECT_EQ(Contents(file_), "[Options]\nVolume = 2\nName = B\nFPS = False\n");
+  EXPECT_THAT(second.Get("Options", "Volume"), Optional(std::string("1")));
+  EXPECT_TRUE(second.Refresh());
+  EXPECT_THAT(second.Get("Options", "Volume"), Optional(std::string("2")));
+}
+
+TEST_F(IniSettingsTest, ASaveKeepsThePermissions) {
+  Put(file_, "[Options]\nX = 1\n");
+  using std::filesystem::perms;
+  std::filesystem::permissions(file_, perms::owner_read | perms::owner_write);
+  IniSettings settings = Open();
+  settings.Set("Options", "X", "2");
+  EXPECT_TRUE(settings.Save());
+  EXPECT_EQ(std::filesystem::status(file_).permissions(), perms::owner_read | perms::owner_write);
+}
+
+TEST_F(IniSettingsTest, WhatLiesInTheWayOfTheTemporaryFileIsTold) {
+  const std::filesystem::path temporary = file_.string() + ".new";
+  for (const bool pipe : {true, false}) {
+    Put(file_, "[Options]\nX = 1\n");
+    const bool made =
+        pipe ? mkfifo(temporary.c_str(), 0600) == 0 : std::filesystem::create_directory(temporary);
+    ASSERT_TRUE(made);
+    reports_.clear();
+    IniSettings settings = Open();
+    settings.Set("Options", "X", "2");
+    EXPECT_FALSE(settings.Save());
+    EXPECT_THAT(reports_, ElementsAre(HasSubstr("cannot be written to " + file_.string())));
+    std::filesystem::remove(temporary);
+  }
 }
 
 TEST_F(IniSettingsTest, AStoreThatCannotBeWrittenIsToldOnceAndStaysWhole) {

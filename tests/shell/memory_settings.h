@@ -22,6 +22,7 @@ class MemorySettings final : public SettingsStore {
   void Set(std::string_view section, std::string_view key, std::string_view value) override {
     values[Key{section, key}] = value;
   }
+  bool Refresh() override { return false; }
   bool Save() override {
     ++saves;
     return true;
