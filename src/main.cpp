@@ -1,8 +1,10 @@
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <memory>
 #include <random>
 #include <string>
+#include <system_error>
 #include <variant>
 #include <vector>
 
@@ -94,6 +96,11 @@ int Main(const std::vector<std::string>& arguments) {
   if (options.version) {
     std::cout << "coilrun " COILRUN_VERSION "\n";
     return 0;
+  }
+  std::error_code error;
+  if (options.user && std::filesystem::exists(*options.user, error) &&
+      !std::filesystem::is_directory(*options.user, error)) {
+    return Complain("--user " + options.user->string() + " is no folder", kWrongUse);
   }
   return options.headless ? PlayHeadless(options) : PlayInWindow(options);
 }

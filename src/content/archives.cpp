@@ -1,6 +1,7 @@
 #include "content/archives.h"
 
 #include <algorithm>
+#include <array>
 #include <span>
 
 #include "content/lines.h"
@@ -14,7 +15,7 @@ constexpr std::string_view kListSuffix = ".snc";
 constexpr std::string_view kSeparators = "\\/";
 
 std::string ListPath(std::string_view archive) {
-  const std::string_view fileName = archive.substr(archive.find_last_of('\\') + 1);
+  const std::string_view fileName = archive.substr(archive.find_last_of(kSeparators) + 1);
   return std::string{kProgramFolder}.append("\\cleanup-").append(fileName).append(kListSuffix);
 }
 
@@ -140,7 +141,7 @@ class Unpacking {
   bool ExtractOrSkip(Walk& walk, const std::string& name) const {
     State& state = context_.state;
     const std::string target = folder_ + name;
-    const bool extract = state.settings.NewInstall || !FileExists(context_.files, target);
+    const bool extract = state.settings.NewInstall || !context_.files.IsWritten(target);
     const bool done = extract ? walk.Extract(target) : walk.Skip();
     DebugPrint(state,
                (extract ? "SnUnextractFile: processing " : "SnUnextractFile: skipping ") + name);
@@ -156,6 +157,26 @@ class Unpacking {
   UnpackResult result_;
 };
 
+/// The program and what came with it: no list can be right that names one of these.
+bool IsShipped(std::string_view shortName) {
+  constexpr std::array<std::string_view, 4> kFolders = {".\\lvl\\", ".\\models\\", ".\\music\\",
+                                                        ".\\fonts\\"};
+  constexpr std::array<std::string_view, 5> kFiles = {
+      ".\\coilrun", ".\\coilrun.png", ".\\intro.bmp", ".\\defaults.ini", ".\\ai_names.lst"};
+  return shortName.ends_with(".snr") || shortName.ends_with(".smp") ||
+         std::any_of(kFolders.begin(), kFolders.end(),
+                     [&](std::string_view folder) { return shortName.starts_with(folder); }) ||
+         std::find(kFiles.begin(), kFiles.end(), shortName) != kFiles.end();
+}
+
+void DeleteListed(Files& files, std::string_view list) {
+  LineReader lines(list);
+  while (const auto line = lines.Next()) {
+    const std::string path{*line};
+    if (!IsShipped(files.ShortName(path))) files.Delete(path);
+  }
+}
+
 /// Deletes the files that the lists name, then the lists; tells whether a list went away.
 bool DeleteListedFiles(Files& files) {
   const std::string folder{kProgramFolder};
@@ -163,9 +184,7 @@ bool DeleteListedFiles(Files& files) {
   if (!lists) return false;
   for (const std::string& name : *lists) {
     const auto list = files.Read(folder + "\\" + name);
-    if (!list) continue;
-    LineReader lines(TextOf(*list));
-    while (const auto line = lines.Next()) files.Delete(std::string{*line});
+    if (list) DeleteListed(files, TextOf(*list));
   }
   bool deleted = false;
   for (const std::string& name : *lists) deleted |= files.Delete(folder + "\\" + name);

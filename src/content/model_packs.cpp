@@ -1,7 +1,6 @@
 #include "content/model_packs.h"
 
 #include <algorithm>
-#include <cctype>
 #include <string>
 #include <vector>
 
@@ -10,6 +9,7 @@
 #include "content/model_ini.h"
 #include "content/progress.h"
 #include "model/feed.h"
+#include "ports/windows_1252.h"
 
 namespace coilrun {
 namespace {
@@ -24,14 +24,6 @@ std::string InProgramFolder(std::string_view path) {
 
 std::string DirOf(const std::string& file) {
   return file.substr(0, file.size() - kSuffix.size());
-}
-
-std::string LowerCase(std::string_view text) {
-  std::string lower{text};
-  for (char& character : lower) {
-    character = static_cast<char>(std::tolower(static_cast<unsigned char>(character)));
-  }
-  return lower;
 }
 
 /// Finds, unpacks and describes the packs of the models folder.
@@ -67,9 +59,9 @@ class PackLoading {
 
   void Unpack(const std::string& file) {
     DebugPrint(state_, "SnGetModelPacks: Loading " + file);
-    const std::string own = LowerCase(DirOf(file));
+    const std::string own = FoldCase(DirOf(file));
     const auto isOwn = [&](std::string_view name) {
-      const std::string folder = LowerCase(name.substr(0, name.find_first_of("\\/")));
+      const std::string folder = FoldCase(name.substr(0, name.find_first_of("\\/")));
       return folder == own || !IsPackFolder(folder);
     };
     const UnpackResult result = SnUnextractFile(context_, InProgramFolder("\\models\\") + file,
@@ -86,7 +78,7 @@ class PackLoading {
 
   bool IsPackFolder(const std::string& lowerCaseName) const {
     return std::any_of(files_.begin(), files_.end(), [&](const std::string& file) {
-      return LowerCase(DirOf(file)) == lowerCaseName;
+      return FoldCase(DirOf(file)) == lowerCaseName;
     });
   }
 

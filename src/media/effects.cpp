@@ -1,23 +1,15 @@
 #include "media/effects.h"
 
-#include <algorithm>
 #include <array>
-#include <cctype>
 
 #include "model/feed.h"
+#include "ports/windows_1252.h"
 
 namespace coilrun {
 namespace {
 
 constexpr std::array<std::string_view, 4> kStandardEffects = {
     "\\Snd\\collect.wav", "\\Snd\\explode.wav", "\\Snd\\live.wav", "\\Snd\\wall.wav"};
-
-bool SameIgnoringCase(std::string_view a, std::string_view b) {
-  return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                    [](unsigned char left, unsigned char right) {
-                      return std::toupper(left) == std::toupper(right);
-                    });
-}
 
 std::string InProgramFolder(std::string_view path) {
   return std::string{kProgramFolder}.append(path);
@@ -71,8 +63,9 @@ void Effects::ClearSndBuffers() {
 }
 
 std::optional<int> Effects::Find(const std::string& path) const {
+  const std::string folded = FoldCase(path);
   for (int slot = 1; slot <= kSndBuffers; ++slot) {
-    if (SameIgnoringCase(buffers_(slot).path, path)) return slot;
+    if (FoldCase(buffers_(slot).path) == folded) return slot;
   }
   return std::nullopt;
 }

@@ -1,7 +1,11 @@
 #include "platform/disk_files.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <map>
+#include <system_error>
+
+#include "ports/windows_1252.h"
 
 namespace coilrun {
 namespace {
@@ -35,7 +39,9 @@ bool EndsIn(const std::string& folded, const std::string& foldedSuffix) {
 DiskFiles::DiskFiles(const std::filesystem::path& program,
                      const std::optional<std::filesystem::path>& user, Probe probe)
     : program_(program), programWritable_(probe(program)) {
-  if (user) user_.emplace(*user);
+  if (!user) return;
+  user_.emplace(*user);
+  if (user_->Text() == program_.Text()) user_.reset();
 }
 
 std::optional<GamePath> DiskFiles::Parse(const std::string& path) const {
@@ -97,12 +103,15 @@ std::optional<std::vector<std::string>> DiskFiles::List(const std::string& folde
 bool DiskFiles::Write(const std::string& path, std::span<const std::uint8_t> contents) {
   const auto parsed = Parse(path);
   if (!parsed) return false;
+  errno = EPERM;
   for (const RealRoot* root : WriteOrder()) {
     if (!root->Write(*parsed, contents)) continue;
     // An older copy among the player's own files would hide what was just written.
     if (user_ && root == &program_) user_->Delete(*parsed);
     return true;
   }
+  const std::string reason = std::generic_category().message(errno);
+  writeProblem_ = std::to_string(errno) + ": " + FromUtf8(reason) + " (writing '" + path + "')";
   return false;
 }
 
@@ -118,8 +127,21 @@ bool DiskFiles::Delete(const std::string& path) {
   const auto parsed = Parse(path);
   if (!parsed) return false;
   bool deleted = false;
-  for (const RealRoot* root : ReadOrder()) deleted = root->Delete(*parsed) || deleted;
+  for (const RealRoot* root : WriteOrder()) deleted = root->Delete(*parsed) || deleted;
   return deleted;
+}
+
+bool DiskFiles::IsWritten(const std::string& path) const {
+  const auto parsed = Parse(path);
+  return parsed && WriteOrder().front()->Find(*parsed);
+}
+
+std::string DiskFiles::ShortName(const std::string& path) const {
+  const auto parsed = Parse(path);
+  if (!parsed) return {};
+  std::string name{kProgramFolder};
+  for (const std::string& part : *parsed) name += "\\" + FoldCase(part);
+  return name;
 }
 
 std::string DiskFiles::FullName(const std::string& path) const {

@@ -12,8 +12,8 @@ namespace coilrun {
 /// where the program folder cannot be written.
 class DiskFiles : public Files {
  public:
-  /// `user` may be missing; it is made when something is first written to it. `probe` tells whether
-  /// the program folder can be written.
+  /// `user` may be missing, or the same folder; it is made when something is first written to it.
+  /// `probe` tells whether the program folder can be written.
   using Probe = bool (*)(const std::filesystem::path& folder);
   DiskFiles(const std::filesystem::path& program, const std::optional<std::filesystem::path>& user,
             Probe probe = CanWriteInto);
@@ -26,6 +26,9 @@ class DiskFiles : public Files {
   bool MakeFolder(const std::string& path) override;
   bool Delete(const std::string& path) override;
   std::string FullName(const std::string& path) const override;
+  std::string ShortName(const std::string& path) const override;
+  bool IsWritten(const std::string& path) const override;
+  std::string WriteProblem() const override { return writeProblem_; }
 
  private:
   std::optional<GamePath> Parse(const std::string& path) const;
@@ -35,6 +38,7 @@ class DiskFiles : public Files {
   RealRoot program_;
   std::optional<RealRoot> user_;
   bool programWritable_;
+  std::string writeProblem_;
 };
 
 }  // namespace coilrun

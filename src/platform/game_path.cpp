@@ -21,23 +21,6 @@ bool IsName(std::string_view part) {
          std::none_of(part.begin(), part.end(), IsForbidden);
 }
 
-char FoldCharacter(char character) {
-  const auto byte = static_cast<unsigned char>(character);
-  const bool ascii = byte >= 'A' && byte <= 'Z';
-  const bool accented = byte >= 0xC0 && byte <= 0xDE && byte != 0xD7;
-  if (ascii || accented) return static_cast<char>(byte + 0x20);
-  switch (byte) {
-    case 0x8A:  // S, OE and Z with their signs lie 16 apart.
-    case 0x8C:
-    case 0x8E:
-      return static_cast<char>(byte + 0x10);
-    case 0x9F:
-      return '\xff';
-    default:
-      return character;
-  }
-}
-
 }  // namespace
 
 std::optional<GamePath> ParseGamePath(std::string_view belowRoot) {
@@ -54,12 +37,6 @@ std::optional<GamePath> ParseGamePath(std::string_view belowRoot) {
     belowRoot.remove_prefix(std::min(end + 1, belowRoot.size()));
   }
   return path;
-}
-
-std::string FoldCase(std::string_view windows1252) {
-  std::string folded(windows1252);
-  std::transform(folded.begin(), folded.end(), folded.begin(), FoldCharacter);
-  return folded;
 }
 
 }  // namespace coilrun

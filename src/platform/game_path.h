@@ -14,7 +14,5 @@ using GamePath = std::vector<std::string>;
 /// Splits what follows the root of a path at separators of both kinds; nothing when a part of it
 /// leads elsewhere. One separator at either end is allowed.
 std::optional<GamePath> ParseGamePath(std::string_view belowRoot);
-/// Lower-case text, umlauts too, for comparing names without regard to case.
-std::string FoldCase(std::string_view windows1252);
 
 }  // namespace coilrun

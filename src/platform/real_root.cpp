@@ -1,6 +1,8 @@
 #include "platform/real_root.h"
 
 #include <algorithm>
+#include <cerrno>
+#include <cstdio>
 #include <system_error>
 
 #include <fcntl.h>
@@ -69,6 +71,11 @@ std::optional<fs::path> FindIn(const fs::path& folder, const std::string& name) 
     if (text && FoldCase(*text) == folded) return folder / candidate;
   }
   return std::nullopt;
+}
+
+/// What a file is called until it is whole.
+fs::path UnfinishedName(const fs::path& place) {
+  return place.native() + ".unfinished";
 }
 
 }  // namespace
@@ -147,19 +154,26 @@ bool RealRoot::Write(const GamePath& path, std::span<const std::uint8_t> content
   if (!folder) return false;
   const fs::path place = FindIn(*folder, path.back()).value_or(*folder / ToUtf8(path.back()));
   if (IsThere(place) && !(Holds(place) && IsFile(place))) return false;
-  // A new file in place of the old one: never a write through a link to a file elsewhere.
-  unlink(place.c_str());
-  FileHandle file(place, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW);
+  // A new file in place of the old one: never half a file, nor a write through a link elsewhere.
+  const fs::path unfinished = UnfinishedName(place);
+  unlink(unfinished.c_str());
+  FileHandle file(unfinished, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW);
   if (!file.IsOpen()) return false;
-  const bool written = file.WriteAll(std::as_bytes(contents));
-  if (file.Close() && written) return true;
-  unlink(place.c_str());
+  const bool written = file.WriteAll(std::as_bytes(contents)) && file.Close() &&
+                       rename(unfinished.c_str(), place.c_str()) == 0;
+  if (written) return true;
+  const int reason = errno;
+  unlink(unfinished.c_str());
+  errno = reason;
   return false;
 }
 
 bool RealRoot::Delete(const GamePath& path) const {
   const auto place = Find(path);
-  return place && IsFile(*place) && unlink(place->c_str()) == 0;
+  if (place) return IsFile(*place) && unlink(place->c_str()) == 0;
+  // What a kill in the middle of a write has left.
+  const auto folder = path.empty() ? std::nullopt : Find(GamePath(path.begin(), path.end() - 1));
+  return folder && unlink(UnfinishedName(*folder / ToUtf8(path.back())).c_str()) == 0;
 }
 
 }  // namespace coilrun

@@ -16,8 +16,8 @@ inline constexpr std::string_view kProgramFolder = ".";
 /// The game's files. Paths are Windows-1252 text with backslashes in any letter case, beginning
 /// with `kProgramFolder` (a full name that `FullName` gave is taken too). Reading looks into the
 /// per-user root first, then into the program folder; writing goes to the program folder, or to the
-/// per-user root when the program folder cannot be written. A path that leads outside its root
-/// exists nowhere: it is neither read, written nor deleted.
+/// per-user root when the program folder cannot be written or another running game has it. A path
+/// that leads outside its root exists nowhere: it is neither read, written nor deleted.
 class Files {
  public:
   virtual ~Files() = default;
@@ -30,14 +30,22 @@ class Files {
   /// without regard to case, from both roots; nothing when the folder does not exist.
   virtual std::optional<std::vector<std::string>> List(const std::string& folder,
                                                        std::string_view suffix) const = 0;
-  /// Writes the whole file, making the folders that it needs. False when that is not possible or
-  /// not allowed.
+  /// True for a file or a folder that lies where this run writes.
+  virtual bool IsWritten(const std::string& path) const = 0;
+  /// Writes the whole file, making the folders that it needs: it is there whole or not at all.
+  /// False when that is not possible or not allowed.
   virtual bool Write(const std::string& path, std::span<const std::uint8_t> contents) = 0;
   virtual bool MakeFolder(const std::string& path) = 0;
   /// Deletes a file, never a folder.
   virtual bool Delete(const std::string& path) = 0;
+  /// Number and name of the error of the last write that failed, and what it should have written;
+  /// "" when none has.
+  virtual std::string WriteProblem() const = 0;
   /// The full name, on this machine, under which `Write` puts this path.
   virtual std::string FullName(const std::string& path) const = 0;
+  /// The path beginning with `kProgramFolder`, with backslashes and in lower case; "" when it leads
+  /// outside.
+  virtual std::string ShortName(const std::string& path) const = 0;
 };
 
 }  // namespace coilrun

@@ -53,6 +53,23 @@ Decoded DecodeOne(std::string_view text) {
   return {codePoint, length};
 }
 
+char FoldCharacter(char character) {
+  const auto byte = static_cast<unsigned char>(character);
+  const bool ascii = byte >= 'A' && byte <= 'Z';
+  const bool accented = byte >= 0xC0 && byte <= 0xDE && byte != 0xD7;
+  if (ascii || accented) return static_cast<char>(byte + 0x20);
+  switch (byte) {
+    case 0x8A:  // S, OE and Z with their signs lie 16 apart.
+    case 0x8C:
+    case 0x8E:
+      return static_cast<char>(byte + 0x10);
+    case 0x9F:
+      return '\xff';
+    default:
+      return character;
+  }
+}
+
 }  // namespace
 
 std::string ToUtf8(std::string_view windows1252) {
@@ -81,6 +98,12 @@ std::string FromUtf8(std::string_view utf8) {
     utf8.remove_prefix(decoded.length);
   }
   return text;
+}
+
+std::string FoldCase(std::string_view windows1252) {
+  std::string folded(windows1252);
+  std::transform(folded.begin(), folded.end(), folded.begin(), FoldCharacter);
+  return folded;
 }
 
 }  // namespace coilrun

@@ -11,4 +11,7 @@ std::string ToUtf8(std::string_view windows1252);
 /// The way back; characters without a place in Windows-1252 and broken sequences become '?'.
 std::string FromUtf8(std::string_view utf8);
 
+/// Lower-case text, umlauts too, for comparing names without regard to case.
+std::string FoldCase(std::string_view windows1252);
+
 }  // namespace coilrun

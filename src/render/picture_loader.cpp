@@ -23,6 +23,8 @@ Picture PictureLoader::DD_CreateSurfFromFile(const std::string& path,
   if (flags.counted || !picture.IsSet()) ++state_.feed.LoadedCount;
   if (!picture.IsSet() && !state_.shell.DisplayReady && !files_.Exists(path)) {
     TellMissing(path, flags.modelPicture);
+  } else if (!picture.IsSet() && size && files_.Exists(path)) {
+    ConsolePrint(state_, "DD_CreateSurfFromFile: unable to read " + path);
   }
   if (flags.counted && !state_.shell.DisplayReady) ReportProgress();
   return picture;
@@ -44,11 +46,12 @@ Picture PictureLoader::Load(const std::string& path, std::optional<PictureSize> 
 
 void PictureLoader::TellMissing(const std::string& path, bool modelPicture) {
   if (modelPicture) return ConsolePrint(state_, "Could not load model " + path);
+  const std::string problem = files_.WriteProblem();
+  const std::string reason = problem.empty() ? "53: File not found" : problem;
   const BoxAnswer answer =
       messageBox_.Show("module 'DD_CreateSurfFromFile': >file/IO error<",
-                       "Could not open '" + path +
-                           "' Coilrun will not work properly!\n(53: File not found)\n\n"
-                           "Try to reinstall Coilrun.\nTo continue anyways choose yes...",
+                       "Could not open '" + path + "' Coilrun will not work properly!\n(" + reason +
+                           ")\n\nTry to reinstall Coilrun.\nTo continue anyways choose yes...",
                        BoxButtons::kYesNo);
   if (answer == BoxAnswer::kNo) giveUp_();
 }

@@ -85,8 +85,8 @@ TEST(PictureLoader, AsksOnlyForMissingFilesOfTheStart) {
     stage.box.answer = answer;
     stage.state.shell.DisplayReady = ready;
     if (damaged) stage.files.Put(kGfx + "a.bmp", "BM");
-    const Picture picture =
-        stage.loader.DD_CreateSurfFromFile(kGfx + "a.bmp", std::nullopt, KeyMode::kBlack, flags);
+    const Picture picture = stage.loader.DD_CreateSurfFromFile(kGfx + "a.bmp", PictureSize{20, 20},
+                                                               KeyMode::kBlack, flags);
     EXPECT_FALSE(picture.IsSet());
     EXPECT_EQ(stage.state.feed.LoadedCount, 1);
     return std::tuple(stage.box.shown, stage.givenUp, stage.state.feed.Console(5));
@@ -94,7 +94,8 @@ TEST(PictureLoader, AsksOnlyForMissingFilesOfTheStart) {
   constexpr LoadFlags kModel{.modelPicture = true};
   EXPECT_THAT(load(BoxAnswer::kYes, false, {}, false), FieldsAre(1, 0, ""));
   EXPECT_THAT(load(BoxAnswer::kNo, false, {}, false), FieldsAre(1, 1, ""));
-  EXPECT_THAT(load(BoxAnswer::kNo, false, {}, true), FieldsAre(0, 0, "")) << "it is there";
+  EXPECT_THAT(load(BoxAnswer::kNo, false, {}, true),
+              FieldsAre(0, 0, "DD_CreateSurfFromFile: unable to read .\\gfx\\a.bmp\r\n"));
   EXPECT_THAT(load(BoxAnswer::kNo, false, kModel, false),
               FieldsAre(0, 0, "Could not load model .\\gfx\\a.bmp\r\n"));
   EXPECT_THAT(load(BoxAnswer::kNo, true, kModel, false), FieldsAre(0, 0, "")) << "after the start";

@@ -1,11 +1,11 @@
 #pragma once
 
 #include <algorithm>
-#include <cctype>
 #include <map>
 #include <string>
 
 #include "ports/files.h"
+#include "ports/windows_1252.h"
 
 namespace coilrun {
 
@@ -49,6 +49,9 @@ class FakeFiles : public Files {
   bool MakeFolder(const std::string& /*path*/) override { return true; }
   bool Delete(const std::string& path) override { return contents.erase(Key(path)) == 1; }
   std::string FullName(const std::string& path) const override { return kRoot + path.substr(1); }
+  std::string ShortName(const std::string& path) const override { return Key(path); }
+  bool IsWritten(const std::string& path) const override { return Exists(path); }
+  std::string WriteProblem() const override { return {}; }
 
   std::map<std::string, Bytes> contents;
 
@@ -56,9 +59,7 @@ class FakeFiles : public Files {
   static constexpr const char* kRoot = "/game";
 
   static std::string Key(const std::string& path) {
-    std::string key = path.starts_with(kRoot) ? "." + path.substr(5) : path;
-    std::ranges::transform(key, key.begin(), [](unsigned char c) { return std::tolower(c); });
-    return key;
+    return FoldCase(path.starts_with(kRoot) ? "." + path.substr(5) : path);
   }
 };
 

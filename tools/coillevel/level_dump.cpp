@@ -40,6 +40,9 @@ class OneLevel final : public Files {
   bool MakeFolder(const std::string& /*path*/) override { return false; }
   bool Delete(const std::string& /*path*/) override { return false; }
   std::string FullName(const std::string& path) const override { return path; }
+  std::string ShortName(const std::string& path) const override { return path; }
+  bool IsWritten(const std::string& /*path*/) const override { return false; }
+  std::string WriteProblem() const override { return {}; }
 
  private:
   Bytes level_;
