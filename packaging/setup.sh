@@ -1,6 +1,6 @@
 # Shared by ./play and ./test: the Debian packages that the project needs, and how to install and build.
 
-build_packages="g++ cmake ninja-build pkg-config libsdl2-dev libsdl2-mixer-dev libsdl2-ttf-dev libarchive-dev libssl-dev
+build_packages="g++ cmake ninja-build pkg-config libsdl2-dev libsdl2-mixer-dev libsdl2-ttf-dev libx11-dev libarchive-dev libssl-dev
   libpng-dev libsimpleini-dev nlohmann-json3-dev fonts-liberation2 fonts-comic-neue"
 test_packages="libgtest-dev libgmock-dev libbenchmark-dev clang-format xvfb xauth xdotool openbox x11-apps imagemagick unar
   libarchive-tools python3 python3-numpy python3-pil desktop-file-utils vorbis-tools"

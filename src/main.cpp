@@ -10,6 +10,7 @@
 
 #include "model/state.h"
 #include "platform/platform.h"
+#include "platform/stop_signals.h"
 #include "ports/ports.h"
 #include "ports/terminate.h"
 #include "script/script.h"
@@ -28,8 +29,9 @@ int Complain(const std::string& line, int exitCode) {
   return exitCode;
 }
 
-PlatformOptions OptionsFor(const HostOptions& options) {
+PlatformOptions OptionsFor(const HostOptions& options, StopSignals& signals) {
   PlatformOptions wanted;
+  wanted.stopped = [&signals] { return signals.Arrived(); };
   wanted.data = options.data;
   wanted.user = options.user;
   wanted.windowed = options.windowed;
@@ -55,13 +57,13 @@ int RunProgram(State& state, const Ports& ports, const HostOptions& options) {
 }
 
 int PlayInWindow(const HostOptions& options) {
-  const auto made = MakeSdlPlatform(OptionsFor(options));
+  StopSignals signals;
+  const auto made = MakeSdlPlatform(OptionsFor(options, signals));
   if (!made.platform) return Complain(made.problem, kCriticalFailure);
   const auto state = std::make_unique<State>();
   state->clockSeed = options.seed;
-  return RunProgram(*state,
-                    With(made.platform->Common(), made.platform->Keys(), made.platform->Boxes()),
-                    options);
+  StoppableKeys keys(signals, made.platform->Keys());
+  return RunProgram(*state, With(made.platform->Common(), keys, made.platform->Boxes()), options);
 }
 
 int PlayHeadless(const HostOptions& options) {
@@ -72,7 +74,8 @@ int PlayHeadless(const HostOptions& options) {
   if (!traceFile) return Complain("cannot write the trace " + *options.trace, kWrongUse);
   std::ostream& trace = options.trace ? traceFile : std::cout;
 
-  const auto made = MakeHeadlessPlatform(OptionsFor(options));
+  StopSignals signals;
+  const auto made = MakeHeadlessPlatform(OptionsFor(options, signals));
   if (!made.platform) return Complain(made.problem, kCriticalFailure);
   const auto state = std::make_unique<State>();
   state->clockSeed = options.seed;
@@ -80,7 +83,8 @@ int PlayHeadless(const HostOptions& options) {
   const CommonPorts& common = made.platform->Common();
   ScriptPlayer player(*std::move(loaded.script), {*state, common.clock, common.music,
                                                   made.platform->Pictures(), trace, std::cerr});
-  const int exitCode = RunProgram(*state, With(common, player, player), options);
+  StoppableKeys keys(signals, player);
+  const int exitCode = RunProgram(*state, With(common, keys, player), options);
   trace.flush();
   return trace ? exitCode : Complain("cannot write the trace", kWrongUse);
 }

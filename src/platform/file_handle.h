@@ -13,6 +13,8 @@ namespace coilrun {
 class FileHandle {
  public:
   FileHandle() = default;
+  /// Takes over what is open already.
+  explicit FileHandle(int descriptor) : descriptor_(descriptor) {}
   /// Opens with the flags of open(2), never handing the file on to other programs.
   FileHandle(const std::filesystem::path& file, int flags);
   /// The same for what lies in an open folder.

@@ -30,6 +30,8 @@ struct PlatformOptions {
   std::optional<std::filesystem::path> user;
   bool windowed = false;
   int fps = 100;
+  /// Whether the system has asked the program to leave; asked while a message box waits.
+  std::function<bool()> stopped = [] { return false; };
   /// Takes one line for each thing that is wrong but does not end the game (a damaged settings
   /// file, missing fonts); each is reported once.
   std::function<void(const std::string& line)> report = [](const std::string&) {};

@@ -27,6 +27,8 @@ class KeySource {
   /// come, in order; called once at the start of every yield (a script runs the commands that are
   /// due). May throw `Terminate`.
   virtual void Gather(WindowListener& listener) = 0;
+  /// Keeps the window alive while the program is busy and takes nothing in.
+  virtual void Serve() = 0;
   /// Brings the snapshot up to date, with at most one change of each key, so that a short tap is
   /// seen down and then up.
   virtual void ReadKeys(KeySnapshot& keys) = 0;

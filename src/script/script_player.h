@@ -35,6 +35,7 @@ class ScriptPlayer final : public KeySource, public MessageBox {
   ScriptPlayer(Script script, const ScriptStage& stage);
 
   void Gather(WindowListener& listener) override;
+  void Serve() override {}
   void ReadKeys(KeySnapshot& keys) override;
 
   /// Prints the box and takes the oldest answer that is due; without one it is No, or OK.

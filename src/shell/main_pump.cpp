@@ -21,7 +21,7 @@ MainPump::MainPump(State& state, Ports& ports, TimerHandlers& timers, WindowList
     : state_(state), ports_(ports), timers_(timers), window_(window) {}
 
 void MainPump::Yield() {
-  if (handling_) return;
+  if (handling_) return ports_.keys.Serve();
   const Raised raised(handling_);
   ReadClock();
   ports_.keys.Gather(window_);

@@ -104,6 +104,25 @@ TEST_F(ArchivesTest, CleansUpWhatAnyRunListed) {
   EXPECT_EQ(stage.host.stored, (std::map<std::string, std::string>{{"NewInstall", "False"}}));
 }
 
+TEST_F(ArchivesTest, NoListDeletesWhatCameWithTheProgram) {
+  std::string list;
+  for (const char* const shipped :
+       {".\\coilrun", ".\\Defaults.ini", ".\\gfx.snr", ".\\gfx\\own.SNR", ".\\models\\bee.smp",
+        ".\\lvl\\lvl1.dat", ".\\MUSIC\\a.ogg", ".\\AI_Names.lst"}) {
+    stage.files.Put(shipped, "shipped");
+    list += std::string{shipped} + "\r\n/game" + (shipped + 1) + "\r\n";
+  }
+  stage.files.Put(".\\cleanup-evil.snc", list);
+  CleanUpFiles(stage.context);
+  EXPECT_EQ(stage.files.contents.size(), 8U);
+}
+
+TEST_F(ArchivesTest, AnArchiveInAFolderHasItsListBesideTheOthers) {
+  stage.archive.archives[".\\sub/x.snr"] = {{"a.bmp", "A"}};
+  SnUnextractFile(stage.context, ".\\sub/x.snr", ".\\gfx\\", kArchivePassword);
+  EXPECT_TRUE(stage.files.Exists(".\\cleanup-x.snr.snc"));
+}
+
 TEST_F(ArchivesTest, CleansNothingUpWhenAskedNotTo) {
   Unpack();
   state.settings.NoCleanUp = true;

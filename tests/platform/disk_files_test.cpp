@@ -167,6 +167,31 @@ TEST_F(DiskFilesTest, TheProbeDecidesWhereWritesGoAndAFailedWriteFallsBack) {
   EXPECT_THAT(AllBelow(user_), ElementsAre("snd", "snd/b.wav"));
 }
 
+TEST_F(DiskFilesTest, AnUnfinishedFileIsNoFileAndGoesWithItsName) {
+  Put(program_ / "gfx" / "a.bmp.unfinished", "half");
+  DiskFiles files = ProgramOnly();
+  EXPECT_FALSE(files.Exists(".\\gfx\\a.bmp"));
+  EXPECT_TRUE(files.Write(".\\gfx\\a.bmp", ToBytes("whole")));
+  EXPECT_THAT(AllBelow(program_ / "gfx"), ElementsAre("a.bmp"));
+  Put(program_ / "gfx" / "b.bmp.unfinished", "half");
+  EXPECT_TRUE(files.Delete(".\\gfx\\b.bmp"));
+  EXPECT_THAT(AllBelow(program_ / "gfx"), ElementsAre("a.bmp"));
+}
+
+TEST_F(DiskFilesTest, TellsWhatCouldNotBeWrittenAndWhy) {
+  const ReadOnlyFolder program(program_);
+  DiskFiles files = ProgramOnly();
+  EXPECT_EQ(files.WriteProblem(), "");
+  EXPECT_FALSE(files.Write(".\\a.bmp", {}));
+  EXPECT_EQ(files.WriteProblem(), "13: Permission denied (writing '.\\a.bmp')");
+}
+
+TEST_F(DiskFilesTest, OneFolderMayBeBothRoots) {
+  DiskFiles files(program_, program_);
+  EXPECT_TRUE(files.Write(".\\a.txt", ToBytes("kept")));
+  EXPECT_EQ(ReadText(files, ".\\a.txt"), "kept");
+}
+
 TEST_F(DiskFilesTest, FullNamesOfARootInsideTheOtherMeanTheInnerOne) {
   Put(program_ / "user" / "a.txt", "inner");
   DiskFiles files(program_, program_ / "user", NeverWritable);

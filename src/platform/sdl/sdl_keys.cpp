@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "platform/sdl/scan_codes.h"
+#include "ports/terminate.h"
 
 namespace coilrun {
 namespace {
@@ -15,6 +16,7 @@ bool IsAltEnter(const SDL_Keysym& key) {
 }  // namespace
 
 void SdlKeys::Gather(WindowListener& listener) {
+  listener_ = &listener;
   SDL_Event event;
   while (SDL_PollEvent(&event) != 0) {
     switch (event.type) {
@@ -33,6 +35,18 @@ void SdlKeys::Gather(WindowListener& listener) {
         break;
     }
   }
+}
+
+void SdlKeys::CloseOnLostDisplay() {
+  try {
+    if (listener_ != nullptr) listener_->OnWindowEvent(WindowEvent::kClose);
+  } catch (const Terminate&) {
+    // The settings are saved; no way leads back through the X library.
+  }
+}
+
+void SdlKeys::Serve() {
+  SDL_PumpEvents();
 }
 
 void SdlKeys::ForgetRecent() {

@@ -11,8 +11,11 @@ namespace coilrun {
 class SdlKeys : public KeySource {
  public:
   explicit SdlKeys(SdlWindow& window) : window_(window), controllers_(keys_) {}
+  /// Closes the window, whoever listens, when there is no display any more.
+  void CloseOnLostDisplay();
 
   void Gather(WindowListener& listener) override;
+  void Serve() override;
   void ReadKeys(KeySnapshot& keys) override { keys_.ReadKeys(keys); }
   /// Drops the keys and focus changes that were for a box in front of the window.
   void ForgetRecent();
@@ -22,6 +25,7 @@ class SdlKeys : public KeySource {
   void TakeWindowEvent(const SDL_WindowEvent& event, WindowListener& listener);
 
   SdlWindow& window_;
+  WindowListener* listener_ = nullptr;
   KeyQueue keys_;
   SdlControllers controllers_;
   bool hasFocus_ = true;

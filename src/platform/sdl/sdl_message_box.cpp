@@ -1,43 +1,58 @@
 #include "platform/sdl/sdl_message_box.h"
 
-#include <array>
+#include <algorithm>
 #include <iostream>
+#include <optional>
 
 #include <SDL.h>
 
+#include "platform/box_picture.h"
 #include "ports/windows_1252.h"
 
 namespace coilrun {
 namespace {
 
-constexpr int kYes = 1;
-constexpr int kNo = 0;
-constexpr Uint32 kOnEnter = SDL_MESSAGEBOX_BUTTON_RETURNKEY_DEFAULT;
-constexpr Uint32 kOnEscape = SDL_MESSAGEBOX_BUTTON_ESCAPEKEY_DEFAULT;
+/// How often the window is looked after while the box waits.
+constexpr Uint32 kPatienceMillis = 30;
+
+std::optional<BoxAnswer> AnswerOfKey(SDL_Keycode key, bool isQuestion) {
+  const bool yes = key == SDLK_RETURN || key == SDLK_KP_ENTER || key == SDLK_y;
+  const bool no = key == SDLK_ESCAPE || key == SDLK_n;
+  if (!isQuestion) return yes || no ? std::optional(BoxAnswer::kOk) : std::nullopt;
+  if (yes) return BoxAnswer::kYes;
+  return no ? std::optional(BoxAnswer::kNo) : std::nullopt;
+}
 
 }  // namespace
 
 BoxAnswer SdlMessageBox::Show(const std::string& title, const std::string& text,
                               BoxButtons buttons) {
-  constexpr std::array<SDL_MessageBoxButtonData, 2> kYesNoButtons = {
-      {{kOnEscape, kNo, "No"}, {kOnEnter, kYes, "Yes"}}};
-  constexpr std::array<SDL_MessageBoxButtonData, 1> kOkButton = {
-      {{kOnEnter | kOnEscape, kYes, "OK"}}};
-  const bool isQuestion = buttons == BoxButtons::kYesNo;
-  const std::string shownTitle = ToUtf8(title);
-  const std::string shownText = ToUtf8(text);
-  const SDL_MessageBoxData box = {SDL_MESSAGEBOX_ERROR,
-                                  window_.Handle(),
-                                  shownTitle.c_str(),
-                                  shownText.c_str(),
-                                  isQuestion ? 2 : 1,
-                                  isQuestion ? kYesNoButtons.data() : kOkButton.data(),
-                                  nullptr};
-  int pressed = kNo;
-  if (SDL_ShowMessageBox(&box, &pressed) != 0) std::cerr << shownTitle << ": " << shownText << "\n";
+  std::cerr << ToUtf8(title) << ": " << ToUtf8(text) << "\n";
+  const BoxPicture picture = DrawBox(text_, title, text, buttons == BoxButtons::kYesNo);
+  const BoxAnswer answer = Wait(picture, buttons);
   keys_.ForgetRecent();
-  if (!isQuestion) return BoxAnswer::kOk;
-  return pressed == kYes ? BoxAnswer::kYes : BoxAnswer::kNo;
+  return answer;
+}
+
+BoxAnswer SdlMessageBox::Wait(const BoxPicture& picture, BoxButtons buttons) {
+  const bool isQuestion = buttons == BoxButtons::kYesNo;
+  const BoxAnswer careful = isQuestion ? BoxAnswer::kNo : BoxAnswer::kOk;
+  while (!stopped_()) {
+    window_.Damaged();
+    window_.Present(ScreenPixels(picture));
+    SDL_Event event;
+    if (SDL_PollEvent(&event) == 0) {
+      SDL_Delay(kPatienceMillis);
+      continue;
+    }
+    if (event.type == SDL_QUIT) {
+      SDL_PushEvent(&event);
+      return careful;
+    }
+    if (event.type != SDL_KEYDOWN || event.key.repeat != 0) continue;
+    if (const auto answer = AnswerOfKey(event.key.keysym.sym, isQuestion)) return *answer;
+  }
+  return careful;
 }
 
 }  // namespace coilrun

@@ -1,22 +1,34 @@
 #pragma once
 
+#include <functional>
+#include <string>
+#include <utility>
+
+#include "platform/box_picture.h"
 #include "platform/sdl/sdl_keys.h"
 #include "platform/sdl/sdl_window.h"
 #include "ports/message_box.h"
+#include "ports/text_face.h"
 
 namespace coilrun {
 
-/// The desktop's message box. Where none can be shown, the text goes to standard error and the
-/// answer is the careful one.
+/// A message in the game's own window: it shows in full screen too, and a request to leave the
+/// program is heard while it waits. Its text goes to standard error as well.
 class SdlMessageBox : public MessageBox {
  public:
-  SdlMessageBox(const SdlWindow& window, SdlKeys& keys) : window_(window), keys_(keys) {}
+  /// `stopped` tells whether the program shall be left.
+  SdlMessageBox(SdlWindow& window, SdlKeys& keys, TextFace& text, std::function<bool()> stopped)
+      : window_(window), keys_(keys), text_(text), stopped_(std::move(stopped)) {}
 
   BoxAnswer Show(const std::string& title, const std::string& text, BoxButtons buttons) override;
 
  private:
-  const SdlWindow& window_;
+  BoxAnswer Wait(const BoxPicture& picture, BoxButtons buttons);
+
+  SdlWindow& window_;
   SdlKeys& keys_;
+  TextFace& text_;
+  std::function<bool()> stopped_;
 };
 
 }  // namespace coilrun

@@ -22,10 +22,12 @@ class SdlPlatform : public WindowPlatform {
         storage_(folders, options.report),
         window_(clock_, options.windowed, folders.program / "coilrun.png"),
         keys_(window_),
-        boxes_(window_, keys_),
         audio_(mixer_),
         music_(mixer_, clock_),
-        text_(folders.program / "fonts", options.report) {}
+        text_(folders.program / "fonts", options.report),
+        boxes_(window_, keys_, text_, options.stopped) {
+    if (window_.Problem().empty()) window_.SaveWhenLost([this] { keys_.CloseOnLostDisplay(); });
+  }
 
   const std::string& Problem() const { return window_.Problem(); }
   const CommonPorts& Common() const override { return ports_; }
@@ -38,11 +40,11 @@ class SdlPlatform : public WindowPlatform {
   SdlClock clock_;
   SdlWindow window_;
   SdlKeys keys_;
-  SdlMessageBox boxes_;
   SdlMixer mixer_;
   SdlAudio audio_;
   SdlMusic music_;
   SdlText text_;
+  SdlMessageBox boxes_;
   CommonPorts ports_{clock_,           window_,           audio_, music_, storage_.files,
                      storage_.archive, storage_.settings, text_};
 };

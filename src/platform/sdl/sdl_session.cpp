@@ -21,6 +21,7 @@ bool IsRealDisplay() {
 SdlSession::SdlSession() {
   SDL_SetMainReady();
   SDL_SetHint(SDL_HINT_APP_NAME, "Coilrun");
+  SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
   // The accelerated window surface costs many times the processor time of the plain one.
   SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
   if (SDL_Init(SDL_INIT_VIDEO) != 0 || !IsRealDisplay()) {

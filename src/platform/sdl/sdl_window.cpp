@@ -104,7 +104,7 @@ void SdlWindow::ApplyFullScreen() {
 }
 
 void SdlWindow::ShowPointer(bool visible) {
-  SDL_ShowCursor(visible ? SDL_ENABLE : SDL_DISABLE);
+  if (!display_.IsLost()) SDL_ShowCursor(visible ? SDL_ENABLE : SDL_DISABLE);
 }
 
 }  // namespace coilrun

@@ -1,10 +1,13 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 
 #include "platform/frame_pacer.h"
+#include "platform/sdl/lost_display.h"
 #include "platform/sdl/presenter.h"
 #include "platform/sdl/sdl_clock.h"
 #include "platform/sdl/sdl_pointers.h"
@@ -21,7 +24,8 @@ class SdlWindow : public Screen {
   const std::string& Problem() const { return problem_; }
   /// The picture is drawn anew by the next flip.
   void Damaged() { presenter_->Forget(); }
-  SDL_Window* Handle() const { return window_.get(); }
+  /// Calls `save` when the display is lost, then ends the process.
+  void SaveWhenLost(std::function<void()> save) { display_.Watch(*window_, std::move(save)); }
 
   void Flip(ScreenPixels primary) override;
   void Present(ScreenPixels primary) override;
@@ -38,6 +42,7 @@ class SdlWindow : public Screen {
   bool windowed_;
   bool hasWindowedSize_;
   std::string problem_;
+  LostDisplay display_;
   SdlPointer<SDL_Window> window_;
   std::unique_ptr<Presenter> presenter_;
   FramePacer pacer_;

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <functional>
+
+#include <SDL.h>
+
+namespace coilrun {
+
+/// Notices that the X server is gone: without this the X library would end the process on the spot,
+/// and it can only be left after that. (On Wayland SDL itself asks to leave.)
+class LostDisplay {
+ public:
+  /// Watches the display of this window until the process ends. `save` may call nothing that
+  /// needs the display; after it the process ends with exit code 0.
+  void Watch(SDL_Window& window, std::function<void()> save);
+
+  bool IsLost() const { return lost_; }
+
+ private:
+  void Leave();
+
+  std::function<void()> save_;
+  bool lost_ = false;
+};
+
+}  // namespace coilrun

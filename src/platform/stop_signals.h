@@ -1,0 +1,36 @@
+#pragma once
+
+#include "platform/file_handle.h"
+#include "ports/key_source.h"
+
+namespace coilrun {
+
+/// The system's requests to leave: SIGTERM, SIGINT and SIGHUP, read instead of being delivered. To
+/// be made before the process has a second thread.
+class StopSignals {
+ public:
+  StopSignals();
+
+  /// Whether one has come, now or earlier.
+  bool Arrived();
+
+ private:
+  FileHandle signals_;
+  bool arrived_ = false;
+};
+
+/// A key source for which a request to leave closes the window.
+class StoppableKeys : public KeySource {
+ public:
+  StoppableKeys(StopSignals& signals, KeySource& keys) : signals_(signals), keys_(keys) {}
+
+  void Gather(WindowListener& listener) override;
+  void ReadKeys(KeySnapshot& keys) override { keys_.ReadKeys(keys); }
+  void Serve() override { keys_.Serve(); }
+
+ private:
+  StopSignals& signals_;
+  KeySource& keys_;
+};
+
+}  // namespace coilrun
