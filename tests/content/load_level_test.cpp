@@ -82,6 +82,16 @@ TEST_F(LoadLevelTest, PutsMapAndKeysIntoTheState) {
   EXPECT_EQ(stage.host.preparations, 1);
 }
 
+TEST_F(LoadLevelTest, ComputerSnakesStayEnabledAndAskForNothing) {
+  state.Snakes(2).NextDir = Dir::kLeft;
+  Load("S 1 .\nAIS=1\n");
+  EXPECT_EQ(state.mode.NumSnakes, 2);
+  Load("S 1 .\n");
+  EXPECT_TRUE(state.mode.AiEnabled);
+  EXPECT_EQ(state.mode.NumSnakes, 1);
+  EXPECT_EQ(state.Snakes(2).NextDir, Dir::kNone);
+}
+
 TEST_F(LoadLevelTest, KeepsAndResetsWhatTheLevelBeforeLeft) {
   Load("| S * .\nnextLvl= lvl9.dat\nlvlName= One\nreqRed=4\nnumPower=2\nhasOpenWalls=True\n");
   SnakeRec& player = state.Snakes(1);

@@ -73,6 +73,12 @@ TEST(KillSnake, SinglePlayCostsALifeAndRestartsTheClock) {
               ElementsAre("215 Uh - You loose a live...", "230 -Press Enter-", "200 " + edge,
                           "215 " + side, "230 " + side, "245 " + side, "260 " + edge));
   EXPECT_TRUE(hidden.Present && !hidden.Collected);
+  hidden.Present = false;
+  hidden.Collected = true;
+  field.state.level.HideCollected = false;
+  field.host.onYield = nullptr;
+  Kill(field, 1);
+  EXPECT_FALSE(hidden.Present) << "only a level that hides items has some to give back";
   EXPECT_EQ(field.state.SpawnPoints(1).State, "");
   EXPECT_EQ(field.state.CenterLines(0).Text, "");
 }

@@ -142,15 +142,16 @@ TEST(Headless, TheSnakeKeepsItsPaceAtEveryFrameRate) {
   for (const char* const fps : {"60", "75", "100", "144"}) {
     const auto script = ScriptText()
                             .At(500, "tap 59")
+                            .At(550, "set GodMode true")
                             .At(600, "tap 203")
                             .At(1000, "state")
-                            .At(3000, "state")
-                            .At(3000, "end");
+                            .At(11000, "state")
+                            .At(11000, "end");
     const GameRun run = folder.Play(script.Text(), {"/L=lvl1.dat", "--fps", fps});
     ASSERT_THAT(run.states, SizeIs(2)) << run.errors;
     const int from = run.states[0]["Snakes"][0]["X"];
     const int to = run.states[1]["Snakes"][0]["X"];
-    EXPECT_NEAR(from - to, 20 * 20, 20) << fps << " frames a second";
+    EXPECT_NEAR(from - to, 20 * 100, 20) << "in ten seconds at " << fps << " frames a second";
   }
 }
 

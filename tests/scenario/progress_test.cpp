@@ -23,6 +23,26 @@ std::vector<std::string> DrawnTexts(const json& state) {
   return texts;
 }
 
+TEST(Progress, KeysWaitWithTheLevelScreenAndTheScreenWithTheDeath) {
+  const ProgramFolder folder;
+  const auto script = ScriptText()
+                          .At(500, "tap 59")
+                          .At(600, "tap 200")
+                          .At(800, "set LevelIntroPending true")
+                          .At(800, "tap 203")
+                          .At(900, "state")
+                          .At(1000, "tap 59")
+                          .At(1100, "set Snakes.1.Y 30")
+                          .At(1500, "tap 59")
+                          .At(1600, "state")
+                          .At(1600, "end");
+  const GameRun run = folder.Play(script.Text(), {"/L=lvl3.dat"});
+  ASSERT_THAT(run.states, SizeIs(2)) << run.errors;
+  EXPECT_EQ(run.states[0]["Snakes"][0]["NextDir"], "Forw");
+  EXPECT_EQ(run.states[1]["WaitingAfterDeath"], true);
+  EXPECT_EQ(run.states[1]["ShowLevelScreen"], false);
+}
+
 TEST(Progress, ACompletedLevelLeadsIntoTheNext) {
   const ProgramFolder folder;
   const auto script = ScriptText()

@@ -63,6 +63,20 @@ TEST(Timers, FireInOrderAndWaitWithWhatAHandlerSwitchesOn) {
   EXPECT_FALSE(timers.ResetSpeed.Enabled);
 }
 
+TEST(Timers, WhatAHandlerSwitchesOffOrPutsOffDoesNotFire) {
+  for (const bool off : {true, false}) {
+    Clockwork clock;
+    Timers& timers = clock.state.timers;
+    timers.ResetSpeed = {500, true};
+    clock.recorder.onCall = [&] {
+      if (off) Timers::Stop(timers.ResetSpeed);
+      if (!off) timers.SetInterval(timers.ResetSpeed, 500);
+    };
+    clock.YieldAt(1000);
+    EXPECT_THAT(clock.recorder.calls, ElementsAre("second")) << off;
+  }
+}
+
 TEST(Timers, EvenStepsKeepTheirPaceOnADisplayThatDoesNotDivideIt) {
   Clockwork clock;
   Timers& timers = clock.state.timers;
