@@ -15,8 +15,12 @@ HERE = os.path.dirname(os.path.abspath(__file__))
 ROOT = os.path.dirname(os.path.dirname(HERE))
 TARGET = os.path.join(ROOT, "assets", "gfx", "fonts")
 ROWS = ("ABCDEFGHIJKLMNOPQRSTUVWXYZ", "abcdefghijklmnopqrstuvwxyz", "0123456789\0.:-+*/()=\\_!?")
+# Further characters: beside these rows on small sheets, below them on large ones.
+FURTHER = ("',;\"#$%&@<>[]{}^|~`´§", "ÄÖÜäöüß")
+BESIDE, BELOW = (26, 0), (0, 3)
 RIM = (24, 24, 24)
 SCALE = 16
+SPARE = 4
 
 
 def cell(column, row, width, height):
@@ -38,10 +42,10 @@ def redrawn():
     """Letters of narrow.txt: character to (rows of ink, rows below the base line)."""
     letters = {}
     rows, char, below = [], None, 0
-    with open(os.path.join(HERE, "narrow.txt"), encoding="ascii") as lines:
+    with open(os.path.join(HERE, "narrow.txt"), encoding="utf-8") as lines:
         for line in [*lines, "\n"]:
             line = line.rstrip("\n")
-            if line.startswith("# "):
+            if line.startswith("//"):
                 continue
             if " " in line:
                 char, below = line[0], int(line[2:])
@@ -91,21 +95,41 @@ def small_glyph(char, font, box, base, fills, letters):
     return out
 
 
+def outline(char, font, width, height, base):
+    """Fine mask of a letter as wide as its ink, with SPARE rows more above the cell."""
+    size = (width * SCALE, (height + SPARE) * SCALE)
+    big = Image.new("L", size, 0)
+    place = (size[0] // 2, (base + SPARE) * SCALE)
+    ImageDraw.Draw(big).text(place, char, fill=255, font=font, anchor="ms")
+    ink = big.getbbox()
+    return big.crop((ink[0], 0, ink[2], size[1]))
+
+
+def lowered(shape, base, room):
+    """An outline without its spare rows; one that stands too high is pressed down to fit."""
+    top = shape.getbbox()[1]
+    cell = shape.crop((0, SPARE * SCALE, shape.width, shape.height))
+    if top >= SPARE * SCALE + room:
+        return cell
+    line = (base + SPARE) * SCALE
+    upper = shape.crop((0, top, shape.width, line))
+    cell.paste(upper.resize((shape.width, base * SCALE - room), Image.LANCZOS), (0, room))
+    cell.paste(0, (0, 0, shape.width, room))
+    return cell
+
+
 def large_glyph(char, font, box, base, centre, widest, stops, weight, rim_radius):
     """Smooth letter, squeezed to the widest that fits, with gradient, lit upper edge and rim."""
     left, top, right, bottom = box
     w, h = right - left, bottom - top
-    big = Image.new("L", (w * SCALE * 4, h * SCALE), 0)
-    ImageDraw.Draw(big).text((w * SCALE * 2, base * SCALE), char, fill=255, font=font, anchor="ms")
-    ink = big.getbbox()
-    shape = big.crop((ink[0], 0, ink[2], h * SCALE))
+    room = int((rim_radius + weight + 0.05) * SCALE)
+    shape = lowered(outline(char, font, w * 4, h, base), base, room)
     wide = shape.width
     limit = int(widest * SCALE)
     if wide > limit:
         shape = shape.resize((limit, h * SCALE), Image.LANCZOS)
         wide = limit
     x0 = int(round(centre * SCALE - wide / 2))
-    room = int((rim_radius + weight + 0.05) * SCALE)
     x0 = max(room, min(x0, w * SCALE - wide - room))
     canvas = Image.new("L", (w * SCALE, h * SCALE), 0)
     canvas.paste(shape, (x0, 0))
@@ -130,16 +154,21 @@ def large_glyph(char, font, box, base, centre, widest, stops, weight, rim_radius
     return out
 
 
-def sheet(name, size, width, height, glyph):
+def places(rows, first):
+    """Each character of some rows with the column and row of its cell."""
+    for row, characters in enumerate(rows, first[1]):
+        for column, char in enumerate(characters, first[0]):
+            if char != "\0":
+                yield char, column, row
+
+
+def sheet(name, size, width, height, further, glyph):
     """Fills a sheet of the given size with every character of the layout and writes it."""
     picture = np.zeros((size[1], size[0], 3), np.uint8)
-    for row, characters in enumerate(ROWS):
-        for column, char in enumerate(characters):
-            if char == "\0":
-                continue
-            left, top, right, bottom = cell(column, row, width, height)
-            right = min(right, size[0])
-            picture[top:bottom, left:right] = glyph(char, (left, top, right, bottom))
+    for char, column, row in [*places(ROWS, (0, 0)), *further]:
+        left, top, right, bottom = cell(column, row, width, height)
+        right = min(right, size[0])
+        picture[top:bottom, left:right] = glyph(char, (left, top, right, bottom))
     Image.fromarray(picture, "RGB").save(os.path.join(TARGET, name), optimize=True)
 
 
@@ -150,6 +179,7 @@ def small_sheet(name, width, height, file, pixels, base, fills, letters):
         (499, 50),
         width,
         height,
+        places(FURTHER, BESIDE),
         lambda char, box: small_glyph(char, font, box, base, fills, letters),
     )
 
@@ -158,11 +188,14 @@ def large_sheet(
     name, size, width, height, file, pixels, base, centre, widest, stops, weight, rim=1.2
 ):
     font = ImageFont.truetype(file, pixels * SCALE)
+    # Letters whose cells the sheet's edge cuts off have whole ones behind the others.
+    cut = "".join(row[-1] for row in ROWS[:2]) if cell(25, 0, width, height)[2] > size[0] else ""
     sheet(
         name,
         size,
         width,
         height,
+        places((FURTHER[0], FURTHER[1] + cut), BELOW),
         lambda char, box: large_glyph(char, font, box, base, centre, widest, stops, weight, rim),
     )
 

@@ -8,23 +8,37 @@ namespace coilrun {
 namespace {
 
 /// Size of a glyph cell, and by how much glyphs are moved together, in hundredths of a pixel: whole
-/// numbers, so that a half is a half when it is rounded.
+/// numbers, so that a half is a half when it is rounded. Then the further cells: where they start,
+/// and what the second row of them holds.
 struct FontMetrics {
   Standard sheet;
   int width;
   int height;
   int tightening;
+  GlyphCell further;
+  std::string_view furtherLetters;
 };
 constexpr int kPixel = 100;
 /// Longer texts are measured as if they ended here: many screens wide.
 constexpr std::size_t kLongestText = 100000;
 
-constexpr std::array<FontMetrics, kBitmapFonts> kFonts = {{{Standard::kFont1, 700, 1400, 0},
-                                                           {Standard::kFont2, 905, 1650, 0},
-                                                           {Standard::kFont3, 1700, 2300, 600},
-                                                           {Standard::kFont4, 800, 1500, 0},
-                                                           {Standard::kFont5, 1670, 2400, 500},
-                                                           {Standard::kFont6, 1100, 2100, 200}}};
+/// Small sheets have room beside the letters, large ones below the digits.
+constexpr GlyphCell kBeside{26, 0};
+constexpr GlyphCell kBelow{0, 3};
+/// The last two are an acute accent and a paragraph sign.
+constexpr std::string_view kFurtherSigns = "',;\"#$%&@<>[]{}^|~`\xB4\xA7";
+/// Umlauts and sharp s.
+constexpr std::string_view kUmlauts = "\xC4\xD6\xDC\xE4\xF6\xFC\xDF";
+/// For a sheet that ends inside its cells of Z and z.
+constexpr std::string_view kUmlautsAndZ = "\xC4\xD6\xDC\xE4\xF6\xFC\xDFZz";
+
+constexpr std::array<FontMetrics, kBitmapFonts> kFonts = {
+    {{Standard::kFont1, 700, 1400, 0, kBeside, kUmlauts},
+     {Standard::kFont2, 905, 1650, 0, kBeside, kUmlauts},
+     {Standard::kFont3, 1700, 2300, 600, kBelow, kUmlautsAndZ},
+     {Standard::kFont4, 800, 1500, 0, kBeside, kUmlauts},
+     {Standard::kFont5, 1670, 2400, 500, kBelow, kUmlauts},
+     {Standard::kFont6, 1100, 2100, 200, kBelow, kUmlauts}}};
 
 constexpr int kFirstSign = 11;
 constexpr std::string_view kSigns = ".:-+*/()=\\_!?";
@@ -40,6 +54,18 @@ const FontMetrics& Metrics(int font) {
   return kFonts.at(static_cast<std::size_t>(font - 1));
 }
 
+/// Sheets made before there were further cells have nothing there.
+bool HasInk(const Picture& glyph) {
+  return !glyph.Opaque().groups.empty();
+}
+
+Picture CutGlyph(int font, const Picture& sheet, char character) {
+  if (const auto further = FurtherCellOf(font, character)) {
+    if (Picture glyph = sheet.Cut(GlyphRect(font, *further)); HasInk(glyph)) return glyph;
+  }
+  return sheet.Cut(GlyphRect(font, CellOf(character)));
+}
+
 }  // namespace
 
 GlyphCell CellOf(char character) {
@@ -51,6 +77,16 @@ GlyphCell CellOf(char character) {
   return {kFirstSign + static_cast<int>(sign), 2};
 }
 
+std::optional<GlyphCell> FurtherCellOf(int font, char character) {
+  const auto& [column, row] = Metrics(font).further;
+  if (const auto sign = kFurtherSigns.find(character); sign != std::string_view::npos) {
+    return GlyphCell{column + static_cast<int>(sign), row};
+  }
+  const std::size_t letter = Metrics(font).furtherLetters.find(character);
+  if (letter == std::string_view::npos) return std::nullopt;
+  return GlyphCell{column + static_cast<int>(letter), row + 1};
+}
+
 Rect GlyphRect(int font, GlyphCell cell) {
   const FontMetrics& metrics = Metrics(font);
   return {ToPixels(cell.column * metrics.width), ToPixels(cell.row * metrics.height),
@@ -60,15 +96,20 @@ Rect GlyphRect(int font, GlyphCell cell) {
 
 void BitmapFonts::CutGlyphs(const StandardPictures& sheets) {
   for (int font = 1; font <= kBitmapFonts; ++font) {
-    auto& glyphs = fonts_[static_cast<std::size_t>(font - 1)];
-    const Picture& sheet = sheets(Metrics(font).sheet);
-    for (int row = 0; row < kRows; ++row) {
-      for (int column = 0; column < kColumns; ++column) {
-        const auto glyph = static_cast<std::size_t>(row * kColumns + column);
-        glyphs[glyph] = sheet.Cut(GlyphRect(font, {column, row}));
-      }
-    }
+    fonts_[static_cast<std::size_t>(font - 1)] = Cut(font, sheets(Metrics(font).sheet));
   }
+}
+
+BitmapFonts::Font BitmapFonts::Cut(int font, const Picture& sheet) {
+  Font cut;
+  cut.glyphs.front() = sheet.Cut(GlyphRect(font, kOtherCell));
+  for (std::size_t code = 0; code < cut.glyphOf.size(); ++code) {
+    const char character = static_cast<char>(code);
+    if (CellOf(character) == kOtherCell && !FurtherCellOf(font, character)) continue;
+    cut.glyphOf.at(code) = static_cast<std::uint8_t>(cut.glyphs.size());
+    cut.glyphs.push_back(CutGlyph(font, sheet, character));
+  }
+  return cut;
 }
 
 int BitmapFonts::Width(std::string_view text, int font) {
@@ -81,12 +122,11 @@ int BitmapFonts::Width(std::string_view text, int font) {
 void BitmapFonts::Draw(Surface& target, std::string_view text, int x, int y, int font) const {
   if (!Exists(font)) return;
   const FontMetrics& metrics = Metrics(font);
-  const auto& glyphs = fonts_[static_cast<std::size_t>(font - 1)];
+  const Font& shapes = fonts_[static_cast<std::size_t>(font - 1)];
   int left = x * kPixel - metrics.tightening;
   for (const char character : text.substr(0, kLongestText)) {
-    const GlyphCell cell = CellOf(character);
-    const auto glyph = static_cast<std::size_t>(cell.row * kColumns + cell.column);
-    target.Blit(glyphs[glyph], ToPixels(left), y);
+    const std::uint8_t glyph = shapes.glyphOf[static_cast<std::uint8_t>(character)];
+    target.Blit(shapes.glyphs[glyph], ToPixels(left), y);
     left += metrics.width - metrics.tightening;
   }
 }

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string_view>
+#include <vector>
 
 #include "render/standard_pictures.h"
 
@@ -9,7 +11,8 @@ namespace coilrun {
 
 inline constexpr int kBitmapFonts = 6;
 
-/// The six fonts whose glyphs are cut from picture sheets when these are loaded.
+/// The six fonts whose glyphs are cut from picture sheets when these are loaded. Texts are
+/// Windows-1252.
 class BitmapFonts {
  public:
   /// Cuts all glyphs anew.
@@ -24,20 +27,29 @@ class BitmapFonts {
   static bool Exists(int font) { return font >= 1 && font <= kBitmapFonts; }
 
  private:
-  static constexpr int kRows = 3;
-  static constexpr int kColumns = 26;
+  struct Font {
+    /// The first is that of all characters without one of their own.
+    std::vector<Picture> glyphs = std::vector<Picture>(1);
+    /// By character code, which glyph.
+    std::array<std::uint8_t, 256> glyphOf{};
+  };
+  static Font Cut(int font, const Picture& sheet);
 
-  std::array<std::array<Picture, static_cast<std::size_t>(kRows) * kColumns>, kBitmapFonts> fonts_;
+  std::array<Font, kBitmapFonts> fonts_;
 };
 
-/// Cell of a character on a font sheet.
+/// Place of a glyph on a font sheet.
 struct GlyphCell {
   int column = 0;
   int row = 0;
 
   bool operator==(const GlyphCell&) const = default;
 };
+/// The cell of a character in the first three rows, which every sheet has.
 GlyphCell CellOf(char character);
+/// A further cell of a character, where a sheet of this font has room; drawn in place of `CellOf`
+/// when the sheet has a picture there.
+std::optional<GlyphCell> FurtherCellOf(int font, char character);
 /// The part of the sheet that holds a cell.
 Rect GlyphRect(int font, GlyphCell cell);
 

@@ -58,6 +58,11 @@ FONTS = {
 }
 OTHERS = "\0"  # the empty cell that stands for every other character
 GLYPH_ROWS = ("ABCDEFGHIJKLMNOPQRSTUVWXYZ", "abcdefghijklmnopqrstuvwxyz", f"0123456789{OTHERS}.:-+*/()=\\_!?")
+# Further cells, where the sheets have room: first column and row.
+FURTHER_ROWS = ("',;\"#$%&@<>[]{}^|~`´§", "ÄÖÜäöüß")
+FURTHER = {"fnt_cour_8": (26, 0), "fnt_cour_11": (26, 0), "fnt_sys_8": (26, 0)}
+FURTHER |= {"fnt_bl_16": (0, 3), "fnt_DM_16": (0, 3), "fnt_cour_16": (0, 3)}
+CUT_OFF = {"fnt_bl_16": "Zz"}  # letters that a sheet ends inside of: drawn whole behind the umlauts
 
 # Snake pictures by the direction of travel on entering and on leaving the cell.
 WAYS = {"F": "forw", "B": "back", "L": "left", "R": "right"}
@@ -231,6 +236,17 @@ def check_model(checker, folder):
     return [pictures[n] for n in sorted(names) if n.startswith("Snake_")]
 
 
+def font_cells(name):
+    """(character, column, row) of every cell of a sheet that letters are drawn in whole."""
+    cut_off = CUT_OFF.get(name, "")
+    further = (FURTHER_ROWS[0], FURTHER_ROWS[1] + cut_off)
+    for rows, (left, top) in ((GLYPH_ROWS, (0, 0)), (further, FURTHER[name])):
+        for row, characters in enumerate(rows, top):
+            for column, char in enumerate(characters, left):
+                if rows is further or char not in cut_off:
+                    yield char, column, row
+
+
 def check_fonts(checker):
     for name, (size, (width, height)) in FONTS.items():
         path = checker.gfx / "fonts" / f"{name}.png"
@@ -238,17 +254,21 @@ def check_fonts(checker):
         if mask is None:
             continue
         inked, glyphs = np.zeros_like(mask), {}
-        for row, characters in enumerate(GLYPH_ROWS):
-            for column, char in enumerate(characters):
-                rows = slice(round(row * height), round((row + 1) * height))
-                columns = slice(round(column * width), round((column + 1) * width - 1))
-                inked[rows, columns] = True
-                glyph = pixels[rows, columns]
-                if (char == OTHERS) == bool(mask[rows, columns].any()):
-                    checker.fault(path, f"cell of {char!r} should be {'empty' if char == OTHERS else 'drawn'}")
-                twin = glyphs.setdefault((glyph.shape, glyph.tobytes()), char)
-                if twin != char:
-                    checker.fault(path, f"{char!r} looks like {twin!r}")
+        for char in CUT_OFF.get(name, ""):
+            row = next(r for r, characters in enumerate(GLYPH_ROWS) if char in characters)
+            inked[round(row * height) : round((row + 1) * height), round(25 * width) :] = True
+        for char, column, row in font_cells(name):
+            rows = slice(round(row * height), round((row + 1) * height))
+            columns = slice(round(column * width), round((column + 1) * width - 1))
+            if rows.stop > size[1] or columns.stop > size[0]:
+                checker.fault(path, f"ends inside the cell of {char!r}")
+            inked[rows, columns] = True
+            glyph = pixels[rows, columns]
+            if (char == OTHERS) == bool(mask[rows, columns].any()):
+                checker.fault(path, f"cell of {char!r} should be {'empty' if char == OTHERS else 'drawn'}")
+            twin = glyphs.setdefault((glyph.shape, glyph.tobytes()), char)
+            if twin != char:
+                checker.fault(path, f"{char!r} looks like {twin!r}")
         if (mask & ~inked).any():
             checker.fault(path, f"{(mask & ~inked).sum()} pixels outside the cells")
 

@@ -1,3 +1,5 @@
+#include <set>
+
 #include <gmock/gmock.h>
 
 #include "stage.h"
@@ -38,6 +40,49 @@ TEST(GlyphCells, HoldLettersDigitsAndThirteenSigns) {
   for (const auto& [character, cell] : cases) EXPECT_EQ(CellOf(character), cell) << character;
 }
 
+TEST(FurtherGlyphCells, HoldMarksAndUmlautsBesideOrBelowTheOthers) {
+  struct Case {
+    char character;
+    std::optional<GlyphCell> small;
+    std::optional<GlyphCell> large;
+  };
+  const std::vector<Case> cases = {{'\'', {{26, 0}}, {{0, 3}}},
+                                   {',', {{27, 0}}, {{1, 3}}},
+                                   {'%', {{32, 0}}, {{6, 3}}},
+                                   {'\xA7', {{46, 0}}, {{20, 3}}},
+                                   {'\xC4', {{26, 1}}, {{0, 4}}},
+                                   {'\xDF', {{32, 1}}, {{6, 4}}},
+                                   {'A', {}, {}},
+                                   {'?', {}, {}},
+                                   {' ', {}, {}},
+                                   {'\xE9', {}, {}}};
+  for (const auto& [character, small, large] : cases) {
+    for (const int font : {1, 2, 4}) EXPECT_EQ(FurtherCellOf(font, character), small) << character;
+    for (const int font : {3, 5, 6}) EXPECT_EQ(FurtherCellOf(font, character), large) << character;
+  }
+  EXPECT_EQ(FurtherCellOf(3, 'Z'), (GlyphCell{7, 4})) << "its first cell leaves the sheet";
+  EXPECT_EQ(FurtherCellOf(3, 'z'), (GlyphCell{8, 4}));
+  EXPECT_EQ(FurtherCellOf(5, 'Z'), std::nullopt);
+}
+
+TEST(FurtherGlyphCells, GiveEveryTypableCharacterAPlaceOfItsOwnOnTheSheet) {
+  const std::array<Rect, kBitmapFonts> sheets = {{{0, 0, 499, 50},
+                                                  {0, 0, 499, 50},
+                                                  {0, 0, 439, 133},
+                                                  {0, 0, 499, 50},
+                                                  {0, 0, 439, 133},
+                                                  {0, 0, 439, 140}}};
+  for (int font = 1; font <= kBitmapFonts; ++font) {
+    std::set<std::pair<int, int>> taken;
+    for (char character = '!'; character <= '~'; ++character) {
+      const Rect place =
+          GlyphRect(font, FurtherCellOf(font, character).value_or(CellOf(character)));
+      EXPECT_TRUE(sheets.at(static_cast<std::size_t>(font - 1)).Holds(place)) << font << character;
+      EXPECT_TRUE(taken.emplace(place.left, place.top).second) << font << character;
+    }
+  }
+}
+
 /// Font sheets that are white all over.
 struct TextTest : testing::Test, Stage {
   TextTest() {
@@ -50,6 +95,11 @@ struct TextTest : testing::Test, Stage {
   }
   void PutSheet(const std::string& name, int width, int height) {
     Put("fonts\\fnt_" + name, width, height, 0xFFFFFF);
+  }
+  void Redraw(const std::string& name, int width, int height, Pixel (*pixelAt)(int x, int y)) {
+    files.Put(".\\gfx\\fonts\\fnt_" + name + ".bmp", MakeBitmap(width, height, pixelAt));
+    renderer.LoadStandardPictures();
+    renderer.FillBack({});
   }
   /// First column of each stretch of ink in row `y`.
   std::vector<int> InkStarts(int y) {
@@ -78,9 +128,25 @@ TEST_F(TextTest, GlyphsStandAtRoundedPlaces) {
 
 TEST_F(TextTest, OnlyGlyphsThatLeaveScreenOrSheetAreLeftOut) {
   text.DrawBmpText("xxx", 628, 0, 1);
-  text.DrawBmpText("YZ", 100, 100, 3);
   EXPECT_THAT(InkStarts(0), ElementsAre(628)) << "the second would end at 641";
-  EXPECT_THAT(InkStarts(100), ElementsAre(94)) << "the sheet ends inside Z";
+
+  Redraw("bl_16", 439, 133, [](int, int y) { return y < 69 ? 0xFFFFFFu : 0u; });
+  text.DrawBmpText("ZAZ", 100, 100, 3);
+  EXPECT_THAT(InkStarts(100), ElementsAre(105)) << "without further cells the sheet ends inside Z";
+}
+
+TEST_F(TextTest, FurtherCellsAreDrawnUnlessTheSheetHasNothingThere) {
+  constexpr Pixel kOther = 0x800000;
+  constexpr Pixel kApostrophe = 0x008000;
+  Redraw("cour_8", 499, 50, [](int x, int y) {
+    if (y < 14 && x >= 182 && x < 188) return kApostrophe;
+    return y >= 28 && y < 42 && x >= 70 && x < 76 ? kOther : 0;
+  });
+  text.DrawBmpText("',\xE9", 0, 0, 1);
+  EXPECT_THAT(At({{0, 0}, {7, 0}, {14, 0}}), ElementsAre(kApostrophe, kOther, kOther));
+
+  text.DrawBmpText("Z", 100, 100, 3);
+  EXPECT_THAT(InkStarts(100), ElementsAre(94));
 }
 
 TEST_F(TextTest, CentredTextRoundsHalvesToEven) {
