@@ -5,9 +5,9 @@
 #include "content/ai_snakes.h"
 #include "content/level_reader.h"
 #include "content/lines.h"
-#include "content/placement.h"
-#include "content/snake_timers.h"
 #include "content/user_items.h"
+#include "game/placement.h"
+#include "game/snake_timers.h"
 #include "model/feed.h"
 #include "model/numbers.h"
 

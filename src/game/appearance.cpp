@@ -1,6 +1,6 @@
 #include "game/appearance.h"
 
-#include "content/placement.h"
+#include "game/placement.h"
 
 namespace coilrun {
 namespace {

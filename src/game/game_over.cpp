@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <string>
 
-#include "content/snake_timers.h"
+#include "game/snake_timers.h"
 #include "game/waiting.h"
 
 namespace coilrun {

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "content/placement.h"
+#include "game/placement.h"
 #include "game/speed.h"
 #include "model/feed.h"
 

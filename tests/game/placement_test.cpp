@@ -1,4 +1,4 @@
-#include "content/placement.h"
+#include "game/placement.h"
 
 #include <functional>
 #include <set>
