@@ -3,7 +3,8 @@
 A closed field has a rim 10 pixels broad: heads move from 10 to 630 and from 10 to 470, so a snake
 just touches it. The names that end in _open have none; they are for levels with open walls.
 All keep to the middle tones and to muted colours, so that bright items, dark items, bricks and
-text all stand out.
+text all stand out, and most so where the game writes: behind the status line, the messages and the
+item panel a floor is a little darker and loses its fine detail.
 """
 
 from pathlib import Path
@@ -29,7 +30,16 @@ FIELDS = {
     "bkg_metal": ("metal", STEEL),
     "bkg_marble": ("marble", STONE),
     "bkg_lagoon": ("lagoon", TIMBER),
+    "bkg_deck": ("deck", TIMBER),
+    "bkg_ember": ("ember", STONE),
+    "bkg_sky": ("sky", SNOW),
 }
+
+# Where the game writes: left, top, right, bottom.
+BANDS = ((14, 18, 626, 40), (14, 38, 320, 92), (18, 446, 280, 474))
+BAND_FADE = 60
+BAND_DETAIL = 0.5  # what is left there of the detail
+BAND_LIGHT = 0.93
 
 
 def _field(scene):
@@ -40,6 +50,31 @@ def _frame(material):
     return render.Scene(
         HERE / "frame.pov", WIDTH * 3, HEIGHT * 3, {"MATERIAL": material}, alpha=True
     )
+
+
+def _blurred(picture, passes=3, reach=4):
+    """Averaged over a few pixels around each one, the border repeated."""
+    for _ in range(passes):
+        for axis in (0, 1):
+            pad = [(reach, reach) if a == axis else (0, 0) for a in range(3)]
+            total = np.cumsum(np.pad(picture, pad, mode="edge"), axis=axis)
+            first = np.insert(np.take(total, range(total.shape[axis] - 2 * reach - 1), axis), 0, 0, axis)
+            picture = (np.take(total, range(2 * reach, total.shape[axis]), axis) - first) / (2 * reach + 1)
+    return picture
+
+
+def _calmed(floor):
+    """The floor with its bands darker and smoother, fading into the rest."""
+    y, x = np.mgrid[0:HEIGHT, 0:WIDTH] + 0.5
+    inside = np.zeros((HEIGHT, WIDTH))
+    for left, top, right, bottom in BANDS:
+        across, down = np.maximum(left - x, x - right), np.maximum(top - y, y - bottom)
+        away = np.hypot(np.maximum(across, 0), np.maximum(down, 0))
+        inside = np.maximum(inside, np.clip(1 - away / BAND_FADE, 0, 1))
+    inside = (inside * inside * (3 - 2 * inside))[..., None]
+    light = reduce.to_linear(floor)
+    calm = BAND_LIGHT * (BAND_DETAIL * light + (1 - BAND_DETAIL) * _blurred(light))
+    return reduce.to_srgb(light + (calm - light) * inside)
 
 
 def _shadow():
@@ -69,7 +104,7 @@ def main():
     floors = {s: reduce.load_rgba(o[0])[..., :3] for s, o in zip(scenes, outputs)}
     frames = {r: reduce.load_rgba(o[0]) for r, o in zip(rims, outputs[len(scenes) :])}
     for name, (scene, rim) in FIELDS.items():
-        floor = floors[scene] if scene else grass.draw()
+        floor = _calmed(floors[scene] if scene else grass.draw())
         for file, picture in ((name, _closed(floor, frames[rim])), (f"{name}_open", floor)):
             reduce.save(np.rint(picture * 255).astype(np.uint8), render.GFX / f"{file}.png")
 

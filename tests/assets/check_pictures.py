@@ -14,7 +14,7 @@ import numpy as np
 from PIL import Image
 
 BLACK, GREY_128, GREY_131 = (0, 0, 0), (128, 128, 128), (131, 131, 131)
-PLATE = (36, 34, 40)  # the ground of moving user items, which are keyed black first and grey later
+GROUND = 0.2  # of a moving user item's border that may be of one colour: it stands on no plain square
 GREY_CLEARANCE = 6
 INTERFACE, FIELD = 18, 28  # least value of the brightest channel over a black key
 FRAMES = 45
@@ -163,7 +163,7 @@ def check_still(checker):
 
 
 def check_animation(checker, folder, size, key):
-    """45 different frames, clear of the border and of the key, and no jump from the last to the first."""
+    """45 different frames, clear of the key, and no jump from the last to the first."""
     files = sorted(p.name for p in folder.glob("*"))
     if files != sorted(f"{n}.png" for n in range(1, FRAMES + 1)):
         checker.fault(folder, f"does not hold exactly 1.png to {FRAMES}.png")
@@ -171,19 +171,26 @@ def check_animation(checker, folder, size, key):
     loaded = [checker.keyed(folder / f"{n}.png", size, key) for n in range(1, FRAMES + 1)]
     if any(pixels is None for pixels, _ in loaded):
         return []
-    for number, (_, mask) in enumerate(loaded, 1):
-        if mask[[0, -1]].any() or mask[:, [0, -1]].any():
-            checker.fault(folder / f"{number}.png", "touches the border")
     if len({pixels.tobytes() for pixels, _ in loaded}) < FRAMES:
         checker.fault(folder, "has equal frames")
     steps = [np.abs(a[0] - b[0]).mean() for a, b in zip(loaded, loaded[1:] + loaded[:1])]
     if steps[-1] > max(steps[:-1]):
         checker.fault(folder, f"jumps from the last frame to the first: {steps[-1]:.1f} > {max(steps[:-1]):.1f}")
     # Beside a dark key an edge in shade looks like a fringe.
-    fringe = 0 if key in (BLACK, PLATE) else np.mean([fringe_share(pixels, mask, key) for pixels, mask in loaded])
+    fringe = 0 if key == BLACK else np.mean([fringe_share(pixels, mask, key) for pixels, mask in loaded])
     if fringe > FRINGE_SHARE:
         checker.fault(folder, f"fringe: {fringe:.0%} of the edge is mixed with the key")
     return loaded
+
+
+def check_moving_user_item(checker, folder, frames):
+    """Keyed black first and grey later, so it fills its cell: with a picture, not with a plain ground."""
+    for pixels, mask in frames:
+        if not mask.all() or (pixels == GREY_131).all(axis=2).any():
+            checker.fault(folder, "leaves pixels to a key")
+        border = np.concatenate([pixels[0], pixels[-1], pixels[:, 0], pixels[:, -1]])
+        if np.unique(border, axis=0, return_counts=True)[1].max() > GROUND * len(border):
+            checker.fault(folder, "stands on a plain square")
 
 
 def check_walls(checker):
@@ -294,11 +301,12 @@ def field_things(checker):
     things = {}
     for name, (size, key) in ANIMATED_ITEMS.items():
         things[name] = check_animation(checker, checker.gfx / name, size, key)
+        for number, (_, mask) in enumerate(things[name], 1):
+            if mask[[0, -1]].any() or mask[:, [0, -1]].any():
+                checker.fault(checker.gfx / name / f"{number}.png", "touches the border")
     for folder in sorted(p for p in checker.gfx.glob("ui_*") if p.is_dir()):
-        things[folder.name] = check_animation(checker, folder, (20, 20), PLATE)
-        for pixels, _ in things[folder.name]:
-            if (pixels.max(axis=2) <= 10).any() or (pixels == GREY_131).all(axis=2).any():
-                checker.fault(folder, "leaves pixels to a key")
+        things[folder.name] = check_animation(checker, folder, (20, 20), BLACK)
+        check_moving_user_item(checker, folder, things[folder.name])
     still = [(checker.gfx / f"{n}.png", (16, 16)) for n in FLAT_ITEMS]
     still += [(checker.gfx / f"{n}.png", (20, 20)) for n in WALLS]
     still += [(p, (20, 20)) for p in sorted(checker.gfx.glob("ui_*.png"))]
