@@ -11,35 +11,19 @@
 namespace coilrun {
 namespace {
 
-/// Heads live inside these bounds, themselves excluded.
-constexpr int kRightEdge = 615;
-constexpr int kBottomEdge = 455;
-/// Where an open edge lets a head in again.
-constexpr int kEntryRight = 600;
-constexpr int kEntryBottom = 440;
-constexpr int kEntryNear = 15;
-
-/// The two cells behind a head never hurt.
-constexpr int kFirstDeadlyCell = 2;
 /// Points and growth that a kill brings on top of the victim's length.
 constexpr int kKillBonus = 2;
-
-int Wrapped(int position, int edge, int farEntry) {
-  if (position <= 0) return farEntry;
-  return position >= edge ? kEntryNear : position;
-}
 
 void CheckEdge(Game& game, int snake) {
   State& state = game.state;
   if (state.mode.GodMode) return;
   SnakeRec& mover = state.Snakes(snake);
   if (mover.Immortal || state.level.hasOpenWalls) {
-    mover.X = Wrapped(mover.X, kRightEdge, kEntryRight);
-    mover.Y = Wrapped(mover.Y, kBottomEdge, kEntryBottom);
+    mover.X = kAcross.Wrapped(mover.X);
+    mover.Y = kDown.Wrapped(mover.Y);
     return;
   }
-  const bool inside = mover.X > 0 && mover.Y > 0 && mover.X < kRightEdge && mover.Y < kBottomEdge;
-  if (!inside && !state.mode.NoClip) KillSnake(game, snake, DeathCause::kEdge);
+  if (!InField(mover.Head()) && !state.mode.NoClip) KillSnake(game, snake, DeathCause::kEdge);
 }
 
 bool HitsBody(const SnakeRec& mover, const SnakeRec& body) {

@@ -2,7 +2,6 @@
 
 #include <array>
 
-#include "game/geometry.h"
 #include "game/item_effects.h"
 #include "game/slots.h"
 
@@ -35,6 +34,10 @@ void EatKind(Game& game, int snake, const Meal& meal) {
 }
 
 }  // namespace
+
+Reach MealReach(ItemKind kind) {
+  return kMeals.at(static_cast<std::size_t>(kind)).reach;
+}
 
 void EatItems(Game& game, int snake) {
   for (const Meal& meal : kMeals) EatKind(game, snake, meal);

@@ -1,8 +1,12 @@
 #pragma once
 
 #include "game/game.h"
+#include "game/geometry.h"
 
 namespace coilrun {
+
+/// How far from an item of this kind a head eats it.
+Reach MealReach(ItemKind kind);
 
 /// Lets a snake eat every item that its head reaches, with all that follows.
 void EatItems(Game& game, int snake);

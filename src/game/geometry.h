@@ -21,6 +21,29 @@ struct Reach {
 /// Touch is lopsided on purpose: 16 pixels before an obstacle, 12 after it.
 inline constexpr Reach kObstacleReach{-16, 12, -16, 12};
 
+/// One axis of the field: heads live between 0 and `end`, both excluded. An open edge lets a head
+/// in again on the other side.
+struct FieldAxis {
+  int end;
+  int farEntry;   ///< for a head that left at 0
+  int nearEntry;  ///< for a head that left at `end`
+
+  constexpr bool Holds(int position) const { return 0 < position && position < end; }
+  constexpr int Wrapped(int position) const {
+    if (position <= 0) return farEntry;
+    return position >= end ? nearEntry : position;
+  }
+};
+inline constexpr FieldAxis kAcross{615, 600, 15};
+inline constexpr FieldAxis kDown{455, 440, 15};
+
+constexpr bool InField(Point head) {
+  return kAcross.Holds(head.x) && kDown.Holds(head.y);
+}
+
+/// The two cells behind a head never hurt.
+inline constexpr int kFirstDeadlyCell = 2;
+
 /// True when the cells at these two positions share a pixel.
 constexpr bool Overlap(Point a, Point b) {
   const int dx = a.x - b.x;

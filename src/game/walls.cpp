@@ -10,8 +10,6 @@ namespace coilrun {
 namespace {
 
 constexpr std::string_view kExplosionSound = "\\snd\\explode.wav";
-/// Obstacles that one charge blows.
-constexpr int kBlastsPerCharge = 2;
 
 /// The check of one snake at the place where it stands.
 struct Blaster {
@@ -40,14 +38,6 @@ struct Blaster {
   }
 };
 
-bool IsDestructible(const UserItemRec& item) {
-  return item.Type == "wall" || item.Type == "ani_wall";
-}
-
-bool IsIndestructible(const UserItemRec& item) {
-  return item.Type == "wall_no_tnt" || item.Type == "ani_wall_no_tnt";
-}
-
 void CheckWalls(const Blaster& blaster) {
   State& state = blaster.game.state;
   for (WallRec& wall : Slots(state.Walls, 1, state.numWalls)) {
@@ -74,6 +64,14 @@ void CheckHardUserWalls(const Blaster& blaster) {
 }
 
 }  // namespace
+
+bool IsDestructible(const UserItemRec& item) {
+  return item.Type == "wall" || item.Type == "ani_wall";
+}
+
+bool IsIndestructible(const UserItemRec& item) {
+  return item.Type == "wall_no_tnt" || item.Type == "ani_wall_no_tnt";
+}
 
 void WallCheck(Game& game) {
   State& state = game.state;
