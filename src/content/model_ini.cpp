@@ -48,4 +48,8 @@ void ReadModelIni(std::string_view text, ModelPack& pack) {
   }
 }
 
+ModelPack UndescribedPack(const std::string& file, const std::string& dir) {
+  return {file, dir, dir, "Unknown", true, false, true};
+}
+
 }  // namespace coilrun

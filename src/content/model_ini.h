@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 
 #include "model/records.h"
@@ -9,5 +10,8 @@ namespace coilrun {
 /// Reads the description of a model pack: "NAME=", "AUTHOR=", "EDGES=", "EDGES_INVERS=" and
 /// "TAIL_EDGES=" lines. What it does not say stays as it is.
 void ReadModelIni(std::string_view text, ModelPack& pack);
+
+/// A pack without a description: called by its folder, with corners of body and tail.
+ModelPack UndescribedPack(const std::string& file, const std::string& dir);
 
 }  // namespace coilrun

@@ -87,7 +87,7 @@ class PackLoading {
     if (ini) {
       ReadModelIni(TextOf(*ini), pack);
     } else {
-      pack = {pack.File, pack.Dir, pack.Dir, "Unknown", true, false, true};
+      pack = UndescribedPack(pack.File, pack.Dir);
     }
   }
 

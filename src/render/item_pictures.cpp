@@ -1,7 +1,6 @@
 #include "render/item_pictures.h"
 
 #include <algorithm>
-#include <string_view>
 
 namespace coilrun {
 namespace {
@@ -32,10 +31,6 @@ std::size_t FrameIndex(int frame) {
   return static_cast<std::size_t>(std::clamp(frame, 1, kAnimationFrames) - 1);
 }
 
-KeyMode FrameKey(ItemKind kind) {
-  return kind == ItemKind::kTnt ? KeyMode::kGrey128 : KeyMode::kGrey131;
-}
-
 Rect FramePart(ItemKind kind) {
   return kind == ItemKind::kPower ? kPowerPart : kFramePart;
 }
@@ -55,6 +50,14 @@ ItemPicture FlatPicture(ItemKind kind) {
 }
 
 }  // namespace
+
+std::string_view FrameFolder(ItemKind kind) {
+  return kFiles[Index(kind)].folder;
+}
+
+KeyMode FrameKey(ItemKind kind) {
+  return kind == ItemKind::kTnt ? KeyMode::kGrey128 : KeyMode::kGrey131;
+}
 
 ItemPictures::ItemPictures(PictureStore& store) : store_(store) {
   for (std::size_t i = 0; i < kItemKinds; ++i) {

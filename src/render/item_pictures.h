@@ -2,6 +2,7 @@
 
 #include <array>
 #include <string>
+#include <string_view>
 #include <unordered_map>
 
 #include "model/state.h"
@@ -10,6 +11,10 @@
 namespace coilrun {
 
 inline constexpr int kAnimationFrames = 45;
+
+/// The folder of a kind's frames below gfx, with a backslash at its end, and their colour key.
+std::string_view FrameFolder(ItemKind kind);
+KeyMode FrameKey(ItemKind kind);
 
 /// A picture of the store and the part of it that is drawn.
 struct ItemPicture {

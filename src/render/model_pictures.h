@@ -1,6 +1,8 @@
 #pragma once
 
 #include <array>
+#include <string_view>
+#include <vector>
 
 #include "model/shown_model.h"
 #include "render/picture_loader.h"
@@ -40,6 +42,11 @@ enum class ModelPiece : std::uint8_t {
   kStart,
 };
 inline constexpr int kModelPieces = 29;
+/// Width and height of each, in pixels.
+inline constexpr int kModelSide = 20;
+
+/// The files that a pack with these flags must hold in its folder, in loading order.
+std::vector<std::string_view> ModelFiles(const ModelPack& pack);
 
 /// The pictures of all model packs.
 class ModelPictures {

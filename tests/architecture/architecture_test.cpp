@@ -33,7 +33,7 @@ const Edges kMayInclude = {
     {"shell", {"render", "game", "media", "content", "model", "ports"}},
     {"platform", {"ports"}},
     {"main", {"shell", "script", "platform", "ports", "model"}},
-    {"tools", {"content", "render", "model", "ports", "platform"}},
+    {"tools", {"kit", "content", "game", "render", "model", "ports", "platform"}},
 };
 
 /// Pieces of code that stand only in some places: paths of the repository, as they begin.

@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include "png_file.h"
 #include "tool_run.h"
 
 namespace coilrun {
@@ -106,7 +107,8 @@ TEST_F(CoilpackTest, NamesWhatIsWrong) {
 TEST_F(CoilpackTest, RefusesWrongUse) {
   for (const std::string arguments :
        {"", "pack a.rar in", "create a.rar", "create a.rar in more", "list", "list a.rar more",
-        "test a.rar -p", "list --json a.rar", "extract a.rar", "test --jason"}) {
+        "test a.rar -p", "list --json a.rar", "list --model a.rar", "extract a.rar",
+        "test --jason"}) {
     const auto outcome = Pack(arguments);
     EXPECT_EQ(outcome.code, 2) << arguments;
     EXPECT_THAT(outcome.errors, StartsWith("usage: coilpack create")) << arguments;
@@ -139,6 +141,83 @@ TEST_F(CoilpackTest, PacksNoLinksAndNotItself) {
   EXPECT_EQ(shop_.Contents("a.rar"), "(none)");
 }
 
+/// The pictures of a model pack, as a modder paints them.
+void PutModel(const Workshop& shop, const std::string& folder) {
+  for (const std::string way : {"forw", "back", "left", "right"}) {
+    for (const std::string part : {"head_", "Snake_", "tail_"})
+      shop.Put(folder + part + way + ".png", PlainPng(20, 20, "\x10\xF0\x10"));
+  }
+  for (const std::string name : {"Snake_b_l", "Snake_b_r", "Snake_f_l", "Snake_f_r", "start"})
+    shop.Put(folder + name + ".PNG", PlainPng(20, 20, "\x10\xF0\x10"));
+}
+
+TEST_F(CoilpackTest, MakesBitmapsForTheGame) {
+  using namespace std::string_literals;
+  const std::string clear = "\xFF\xFF\xFF\x00"s;
+  shop_.Put("own/crate.png", PlainPng(2, 1, clear));
+  shop_.Put("own/tnt_animated/1.png", PlainPng(2, 1, clear));
+  shop_.Put("own/flame/1.png", PlainPng(2, 1, clear));
+  shop_.Put("own/flame/2.png", PlainPng(2, 1, clear));
+  const auto outcome = Pack("create own.SNR own");
+  EXPECT_EQ(outcome.code, 0);
+  EXPECT_THAT(outcome.errors, MatchesRegex("flame: transparent pixels[^\n]*\n"));
+  ASSERT_EQ(Pack("extract own.SNR out").code, 0);
+  EXPECT_EQ(shop_.Run("cd out && find . -type f | sort").output,
+            "./crate.bmp\n./flame/1.bmp\n./flame/2.bmp\n./tnt_animated/1.bmp\n");
+  const auto pixels = [this](const std::string& name) { return shop_.Contents(name).substr(54); };
+  EXPECT_EQ(pixels("out/crate.bmp"), "\0\0\0\0\0\0\0\0"s);
+  EXPECT_EQ(pixels("out/tnt_animated/1.bmp"), "\x80\x80\x80\x80\x80\x80\0\0"s);
+
+  ASSERT_EQ(Pack("create own.rar own").code, 0);
+  EXPECT_THAT(Pack("list own.rar").output, HasSubstr(" crate.png\n")) << "no archive of the game";
+  shop_.Put("own/crate.bmp", "a bitmap");
+  EXPECT_EQ(Pack("create own.snr own").errors, "crate.bmp: is there as PNG and as BMP\n");
+  shop_.Put("own/crate.png", "no picture");
+  EXPECT_THAT(Pack("create own.snr own").errors, StartsWith("crate.png: "));
+  EXPECT_EQ(shop_.Contents("own.snr"), "(none)");
+}
+
+TEST_F(CoilpackTest, NamesWhatAModelPackLacks) {
+  PutModel(shop_, "pack/grass/");
+  shop_.Put("pack/grass/model.ini", "NAME=Grass\nEDGES=1\n");
+  ASSERT_EQ(Pack("create grass.smp pack").errors, "");
+  EXPECT_EQ(Pack("test --model grass.smp").errors, "");
+  const std::tuple<std::string, std::string, std::string> cases[] = {
+      {"rm grass/Snake_b_l.PNG", "grass.smp", "grass/Snake_b_l.bmp is missing\n"},
+      {"echo EDGES=0 >> grass/model.ini", "grass.smp", ""},
+      {"echo EDGES_INVERS=1 >> grass/model.ini", "grass.smp", ""},
+      {"echo EDGES=1 >> grass/model.ini", "grass.smp",
+       "grass/Snake_b_l.bmp is missing\ngrass.smp: grass/Snake_b_r_i.bmp is missing\n"},
+      {"echo EDGES=0 >> grass/model.ini; echo TAIL_EDGES=1 >> grass/model.ini", "grass.smp",
+       "grass/Tail_b_r.bmp is missing\n"},
+      {"rm grass/model.ini", "grass.smp", "grass/Snake_b_l.bmp is missing\n"},
+      {"printf 'EDGES=0' > grass/model.ini; cp ../other.png grass/start.PNG", "grass.smp",
+       "grass/start.bmp has 16 x 20 pixels instead of 20 x 20\n"},
+      {"rm grass/start.PNG; echo text > grass/start.bmp", "grass.smp",
+       "grass/start.bmp is no bitmap that the game reads\n"},
+      {"true", "grass.rar", "the game looks for packs whose names end in \".smp\"\n"},
+      {"true", "lawn.smp", "holds no folder \"lawn\"\n"},
+  };
+  shop_.Put("other.png", PlainPng(16, 20, "\x10\xF0\x10"));
+  for (const auto& [change, archive, fault] : cases) {
+    const std::string command = "cd pack; " + change;
+    ASSERT_EQ(Code(command), 0);
+    ASSERT_EQ(Pack("create " + archive + " pack").code, 0);
+    const auto outcome = Pack("test --model " + archive);
+    EXPECT_EQ(outcome.code, fault.empty() ? 0 : 1) << change;
+    EXPECT_THAT(outcome.errors, StartsWith(fault.empty() ? "" : archive + ": " + fault)) << change;
+    EXPECT_EQ(outcome.errors.empty(), fault.empty()) << outcome.errors;
+  }
+  ASSERT_EQ(Code("mv pack/grass/head_forw.png pack/grass/head_forw.bmp; mkdir png && "
+                 "cp -r pack/grass png/ && mv png/grass/head_back.png png/grass/head_back.bmp"),
+            0);
+  ASSERT_EQ(Pack("create png.rar png").code, 0);
+  ASSERT_EQ(Code("mv png.rar grass.smp"), 0);
+  EXPECT_THAT(
+      Pack("test --model grass.smp").errors,
+      HasSubstr("grass/head_left.bmp is missing; the game reads no PNG: \"coilpack create"));
+}
+
 /// What the build packed for the game is whole, and lies under the names the game looks for.
 TEST_F(CoilpackTest, PackedTheGame) {
   const std::filesystem::path game = COILRUN_BUILD_DIR "/game";
@@ -149,7 +228,7 @@ TEST_F(CoilpackTest, PackedTheGame) {
   EXPECT_EQ(Pack("test -p sn80463 '" + (game / "gfx.snr").string() + "'").errors, "");
 
   for (const auto& pack : std::filesystem::directory_iterator(game / "models")) {
-    const auto outcome = Pack("test '" + pack.path().string() + "'");
+    const auto outcome = Pack("test --model '" + pack.path().string() + "'");
     EXPECT_EQ(outcome.errors, "");
     EXPECT_THAT(outcome.output, HasSubstr(pack.path().stem().string() + "/model.ini: ok\n"));
   }

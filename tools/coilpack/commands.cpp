@@ -9,6 +9,8 @@
 
 #include <nlohmann/json.hpp>
 
+#include "game_pictures.h"
+#include "model_check.h"
 #include "platform/rar/checksums.h"
 #include "platform/rar/rar_reader.h"
 #include "platform/rar/rar_writer.h"
@@ -83,6 +85,16 @@ bool WriteWholeFile(const std::filesystem::path& file, const Bytes& contents) {
   return target.Ok() && target.Write(file.filename().string(), contents, std::nullopt).empty();
 }
 
+/// The folder, its pictures in the game's form when the archive is one of the game.
+SourceFolder ReadForArchive(const PackOptions& options) {
+  SourceFolder folder = ReadSourceFolder(options.folder, options.archive);
+  if (!folder.problem.empty() || !IsGameArchive(options.archive)) return folder;
+  const ConvertedPictures converted = ConvertPictures(options.archive, folder.sources);
+  if (!converted.problem.empty()) return {{}, converted.problem};
+  for (const std::string& warning : converted.warnings) std::cerr << Printable(warning) << '\n';
+  return folder;
+}
+
 std::string ExtractEntry(RarReader& reader, std::size_t index, TargetFolder& target) {
   const RarEntry& entry = reader.Entries()[index];
   const RarContents contents = reader.Read(index);
@@ -94,7 +106,7 @@ std::string ExtractEntry(RarReader& reader, std::size_t index, TargetFolder& tar
 }  // namespace
 
 int CreateArchive(const PackOptions& options) {
-  const SourceFolder folder = ReadSourceFolder(options.folder, options.archive);
+  const SourceFolder folder = ReadForArchive(options);
   if (!folder.problem.empty()) {
     std::cerr << Printable(folder.problem) << '\n';
     return 1;
@@ -142,6 +154,11 @@ int TestArchive(const PackOptions& options) {
     if (contents.Ok() && !options.json) std::cout << Printable(entry.name) << ": ok\n";
   }
   if (options.json) PrintJson({{"end", reader->Fault().empty() ? "end" : reader->Fault()}});
+  if (options.model) {
+    for (const std::string& fault : ModelFaults(options.archive, *reader)) {
+      code = Complain(options.archive, fault);
+    }
+  }
   return FinishWalk(options, *reader, code);
 }
 

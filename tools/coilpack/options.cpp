@@ -38,6 +38,8 @@ std::optional<PackOptions> ParsePackOptions(int count, const char* const* argume
       options.password = words[i];
     } else if (words[i] == "--json" && form->command == PackCommand::kTest) {
       options.json = true;
+    } else if (words[i] == "--model" && form->command == PackCommand::kTest) {
+      options.model = true;
     } else if (words[i].starts_with('-') || words[i].empty()) {
       return std::nullopt;
     } else {

@@ -15,13 +15,14 @@ struct PackOptions {
   std::string folder;
   std::string password;
   bool json = false;
+  bool model = false;  ///< look for all that a model pack needs
 };
 
 inline constexpr std::string_view kPackUsage =
     "usage: coilpack create [-p PASSWORD] ARCHIVE FOLDER\n"
     "       coilpack list [-p PASSWORD] ARCHIVE\n"
     "       coilpack extract [-p PASSWORD] ARCHIVE FOLDER\n"
-    "       coilpack test [-p PASSWORD] [--json] ARCHIVE\n";
+    "       coilpack test [-p PASSWORD] [--json] [--model] ARCHIVE\n";
 
 /// Nothing when the command line is not one of the usage lines.
 std::optional<PackOptions> ParsePackOptions(int count, const char* const* arguments);

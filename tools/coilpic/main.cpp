@@ -1,21 +1,13 @@
-#include <algorithm>
-#include <cctype>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
+#include <iterator>
 
-#include "png_picture.h"
+#include "kit/game_picture.h"
 
 namespace {
 
 namespace fs = std::filesystem;
-
-bool IsPng(const fs::path& file) {
-  std::string ending = file.extension().string();
-  std::transform(ending.begin(), ending.end(), ending.begin(),
-                 [](unsigned char letter) { return std::tolower(letter); });
-  return ending == ".png";
-}
 
 bool Write(const fs::path& file, const coilrun::Bytes& contents) {
   std::ofstream stream(file, std::ios::binary);
@@ -29,10 +21,13 @@ bool Complain(const fs::path& file, const std::string& problem) {
 }
 
 bool Convert(const fs::path& from, fs::path to) {
-  const coilrun::Picture picture = coilrun::ReadPng(from.string());
+  std::ifstream stream(from, std::ios::binary);
+  const coilrun::Bytes file{std::istreambuf_iterator<char>(stream), {}};
+  const coilrun::PngPicture picture = coilrun::DecodePng(file);
   if (!picture.problem.empty()) return Complain(from, picture.problem);
   to.replace_extension(".bmp");
-  if (!Write(to, coilrun::EncodeBmp(picture))) return Complain(to, "cannot be written");
+  const coilrun::KeyMode key = coilrun::KeyOf(to.generic_string());
+  if (!Write(to, coilrun::GameBmp(picture, key))) return Complain(to, "cannot be written");
   fs::last_write_time(to, fs::last_write_time(from));
   return true;
 }
@@ -42,7 +37,7 @@ bool Take(const fs::directory_entry& entry, const fs::path& to) {
     fs::create_directories(to);
     return true;
   }
-  if (IsPng(entry.path())) return Convert(entry.path(), to);
+  if (coilrun::IsPngName(entry.path().string())) return Convert(entry.path(), to);
   fs::copy_file(entry.path(), to, fs::copy_options::overwrite_existing);
   fs::last_write_time(to, entry.last_write_time());
   return true;

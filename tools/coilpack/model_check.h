@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "platform/rar/rar_reader.h"
+
+namespace coilrun {
+
+/// What keeps a model pack from showing a whole snake, one line a fault: pictures that are missing,
+/// are no bitmaps or have the wrong size. `archive` is the name of the pack's file.
+std::vector<std::string> ModelFaults(const std::string& archive, RarReader& reader);
+
+}  // namespace coilrun
