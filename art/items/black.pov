@@ -1,4 +1,4 @@
-// The heavy item: an overripe banana, half peeled, its black skin hanging down round the pale fruit.
+// The heavy item: a black banana, half peeled, its skin hanging down round the pale fruit.
 #version 3.7;
 #include "item.inc"
 

@@ -1,4 +1,4 @@
-// The hot item: a chilli pepper, broad at the top under a green cap, pointed below.
+// The hot item: a chili, broad at the top under a green cap, pointed below.
 #version 3.7;
 #include "item.inc"
 
