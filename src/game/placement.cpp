@@ -141,7 +141,7 @@ std::optional<Point> FindFreeSpot(State& state) {
     const int row = state.Rnd.Below(kSpotRows);
     if (!IsSpotTaken(state, Spot(column, row))) return Spot(column, row);
   }
-  const std::vector<Point> free = SpotMap(state).Free();
+  const std::vector<Point> free = FreeSpots(state);
   if (free.empty()) return std::nullopt;
   return free.at(static_cast<std::size_t>(state.Rnd.Below(static_cast<double>(free.size()))));
 }
@@ -153,6 +153,10 @@ void PutAt(ItemRec& item, Point place, int spawnPoint) {
 }
 
 }  // namespace
+
+std::vector<Point> FreeSpots(const State& state) {
+  return SpotMap(state).Free();
+}
 
 bool IsSpotTaken(const State& state, Point spot) {
   if (!InField(spot)) return true;

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "model/numbers.h"
+#include "model/shown_model.h"
 
 namespace coilrun {
 namespace {
@@ -97,7 +98,7 @@ void LoadOptions(State& state, const SettingsStore& store) {
   options.Boolean("NoCleanUp", settings.NoCleanUp, false);
   options.Boolean("NewInstall", settings.NewInstall, true);
   options.Name("Player Name", state.Snakes(1).Name);
-  options.IntegerWithin("Player Color", state.Snakes(1).Model, 1, 0, Int16::kMax);
+  options.IntegerWithin("Player Color", state.Snakes(1).Model, kDefaultModel, 0, Int16::kMax);
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include <nlohmann/json.hpp>
 #include <png.h>
 
+#include "png_file.h"
 #include "tool_run.h"
 
 namespace coilrun {
@@ -59,6 +60,121 @@ TEST(Coillevel, CheckNamesTheLine) {
   }
 }
 
+/// A map of 22 rows with these codes at column and row, and these lines below.
+std::string Map(const std::vector<std::tuple<int, int, char>>& codes, const std::string& keys) {
+  std::string text;
+  for (int row = 1; row <= 22; ++row) {
+    std::string line;
+    for (int column = 1; column <= 30; ++column) line += "_ ";
+    for (const auto& [c, r, code] : codes) {
+      if (r == row) line.at(static_cast<std::size_t>(c - 1) * 2) = code;
+    }
+    text += line + ";\r\n";
+  }
+  return text + keys;
+}
+
+/// A ring of codes round the cells from column and row, `size` cells a side within.
+void Ring(std::vector<std::tuple<int, int, char>>& codes, int column, int row, int size,
+          char code) {
+  for (int i = -1; i <= size; ++i) {
+    for (const int edge : {-1, size}) {
+      codes.emplace_back(column + i, row + edge, code);
+      codes.emplace_back(column + edge, row + i, code);
+    }
+  }
+}
+
+TEST(Coillevel, CheckNamesWhatAwaitsTheSnakes) {
+  using Codes = std::vector<std::tuple<int, int, char>>;
+  Codes boxed = {{15, 12, 'S'}};
+  Ring(boxed, 13, 10, 4, '+');
+  Codes room = {{15, 12, 'S'}, {6, 6, '*'}, {20, 18, '*'}};
+  Ring(room, 5, 5, 3, 'w');
+  Codes hollow = {{15, 18, 'S'}};
+  Ring(hollow, 6, 6, 1, '+');
+  Codes shut = {{15, 12, 'S'}, {6, 6, '*'}};
+  Ring(shut, 12, 8, 8, '+');
+  const std::string soft = "let:w wall\r\nset:w crate.bmp\r\n";
+  const std::string hard = "let:w wall_no_tnt\r\nset:w crate.bmp\r\n";
+  const std::string lost = "x.dat:5: no snake can take what is put into column 5: ";
+  const std::string point = "x.dat:6: no snake can take bananas from the spawn point in column 6\n";
+  const std::tuple<Codes, std::string, std::string> cases[] = {
+      // Starts
+      {{{15, 12, 'S'}, {15, 12, '+'}},
+       "numYellow=1\n",
+       "x.dat:1: the player's start lies in a wall"},
+      {{{15, 12, 'S'}, {14, 11, '+'}}, "", "x.dat:12: the start \"S\" lies in a wall"},
+      {{{15, 12, 'S'}, {16, 4, '+'}, {13, 12, '+'}},
+       "",
+       "x.dat:12: the start \"S\" has no free cell left\n"},
+      {{{15, 12, 'S'}, {12, 12, '+'}}, "", ""},
+      {{{2, 21, 'S'}}, "", ""},
+      {boxed, "", "x.dat:12: the start \"S\" has fewer than 3 free cells in every direction"},
+      {{{15, 12, 'S'}},
+       "SnakeStrtX= 630\n",
+       "x.dat:24: the player's start lies outside the field\n"},
+      {{{15, 12, 'S'}, {5, 5, '1'}, {5, 9, '1'}},
+       "",
+       "x.dat:9: the start \"1\" again: that of line 5"},
+      {{{15, 12, 'S'}, {5, 5, '1'}},
+       "",
+       "x.dat:5: the start \"1\" is not the start that is read last: only 1 "},
+      {{{5, 5, 'S'}, {5, 9, '2'}},
+       "",
+       "x.dat:9: snake 2 has no start, though there is the start \"2\"\n"},
+      {{{5, 5, 'S'}, {5, 9, '1'}}, "AIS=2\n", "x.dat:24: the map has starts for 2 snakes only\n"},
+      // Reach
+      {room, soft + "numYellow=2\nnumTNT=1\n", ""},
+      {room, hard + "numYellow=2\nnumTNT=1\nnumPower=1\n", ""},
+      {room, hard + "numYellow=2\nnumTNT=1\n", lost},
+      {room, hard + "numYellow=2\nHideCollected=True\n", point},
+      {room, soft + "numYellow=2\nHideCollected=True\nAIS=1\n", point},
+      {hollow, "numYellow=2\n", "x.dat:6: no snake can take what is put into column 6: 1 of "},
+      {hollow, "numYellow=0\n", ""},
+      {shut, "hasOpenWalls=True\nnumYellow=1\nHideCollected=True\n", point},
+      // Requirements
+      {{}, "reqRed=2\n", "x.dat:24: the level has no chilies\n"},
+      {shut, "numBlue=1\nHideCollected=True\nreqBlue=1\n",
+       "x.dat:6: no snake can take crystals from the spawn point in column 6\nx.dat:26: the player "
+       "can reach no crystals\n"},
+      {{},
+       "numBlack=1\nHideCollected=True\nreqBlack=2\n",
+       "x.dat:26: more black bananas than lie there (1): "},
+      {{}, "numBlack=1\nreqScore=20\n", "x.dat:25: nothing that gives points can be reached\n"},
+      {{}, "numBlue=1\nblueRate=1\n", "x.dat:25: at a rate of 1 or less no crystal ever"},
+      // Walls beside "+"
+      {{{5, 5, '+'}, {6, 5, '-'}, {5, 6, '|'}, {4, 5, '<'}, {5, 4, '^'}}, "", ""},
+      {{{5, 5, '+'}, {4, 5, '>'}},
+       "",
+       "x.dat:5: the wall \">\" in column 4 leaves a gap to the \"+\" beside it\n"},
+      {{{5, 5, '+'}, {5, 6, '-'}}, "", "x.dat:6: the wall \"-\" in column 5 leaves a gap"},
+  };
+  const Workshop shop;
+  for (const auto& [codes, keys, output] : cases) {
+    shop.Put("x.dat", Map(codes, "lvlName= X\n" + keys));
+    const auto outcome = shop.Run(kLevel + " check x.dat");
+    EXPECT_EQ(outcome.code, 0);
+    EXPECT_THAT(outcome.output, StartsWith(output)) << keys;
+    EXPECT_EQ(outcome.output.empty(), output.empty()) << keys << outcome.output;
+  }
+}
+
+TEST(Coillevel, CheckKnowsWhatIsNoLevel) {
+  const Workshop shop;
+  const std::pair<std::string, std::string> cases[] = {
+      {"", "x.dat:1: the file is empty\n"},
+      {"Dear diary, nothing to say\n", "x.dat:1: nothing here makes a level\n"},
+      {"BM\n" + std::string(5000, '\1') + "\nset:\n",
+       "x.dat:2: these bytes are no text: this is no level\n"},
+  };
+  for (const auto& [text, output] : cases) {
+    shop.Put("x.dat", text);
+    EXPECT_EQ(shop.Run(kLevel + " check x.dat").output, output);
+  }
+  EXPECT_EQ(shop.Run(kLevel + " check x.dat").code, 1) << "the last line is refused";
+}
+
 TEST(Coillevel, DumpTellsWhatTheLoaderMade) {
   const Workshop shop;
   const auto outcome = shop.Run(kLevel + " dump " + kShipped);
@@ -86,6 +202,28 @@ TEST(Coillevel, DrawsTheFieldAndLeavesTheProgramFolderAlone) {
   EXPECT_GT(std::count_if(own.begin(), own.end(), [](char part) { return part != 0; }), 640 * 480);
   EXPECT_NE(own, PixelsOf(shop / "walled.png"));
   EXPECT_EQ(shop.Run("ls game; ls -d coillevel-*").output, "gfx.snr\nlvl\n");
+}
+
+/// The player of a fresh install has model 1; computer snakes take the lowest that is left.
+TEST(Coillevel, DrawsTheStartMarksThatTheGameGivesOut) {
+  const Workshop shop;
+  const std::string pack = COILRUN_BUILD_DIR "/tools/coilpack create ";
+  std::filesystem::create_directories(shop / "game/models");
+  const std::string colors[] = {"\xF0\x10\x10", "\x10\xF0\x10", "\x10\x10\xF0"};
+  for (int model = 0; model < 3; ++model) {
+    const std::string name = "m" + std::to_string(model);
+    shop.Put(name + '/' + name + "/start.png", PlainPng(20, 20, colors[model]));
+    ASSERT_EQ(shop.Run(pack + "game/models/" + name + ".smp " + name).code, 0);
+  }
+  shop.Put("game/lvl/own.dat", Map({{5, 5, 'S'}, {10, 10, '1'}}, "AIS=1\r\n"));
+  std::filesystem::copy(COILRUN_BUILD_DIR "/game/gfx.snr", shop / "game/gfx.snr");
+  ASSERT_EQ(shop.Run(kLevel + " draw game/lvl/own.dat own.png").errors, "");
+  const std::string pixels = PixelsOf(shop / "own.png");
+  const auto at = [&pixels](int x, int y) {
+    return pixels.substr(3U * static_cast<unsigned>(y * 640 + x), 3);
+  };
+  EXPECT_EQ(at(90, 90), colors[1]);
+  EXPECT_EQ(at(209, 209), colors[2]);
 }
 
 TEST(Coillevel, TellsInOneLineWhyItCannotDraw) {

@@ -3,10 +3,12 @@
 #include <algorithm>
 #include <array>
 #include <cctype>
+#include <optional>
 
 #include "content/lines.h"
 #include "model/numbers.h"
 #include "model/state.h"
+#include "quiet_level.h"
 
 namespace coilrun {
 namespace {
@@ -32,6 +34,17 @@ bool IsItemCount(LevelKey key) {
   return key <= LevelKey::kNumPower;
 }
 
+/// The first line that holds a character that no text has.
+std::optional<int> FirstLineOfBytes(std::string_view text) {
+  int line = 1;
+  for (const char character : text) {
+    if (character == '\n') ++line;
+    const bool isLineEnd = character == '\n' || character == '\r';
+    if (static_cast<unsigned char>(character) < ' ' && !isLineEnd && character != '\t') return line;
+  }
+  return std::nullopt;
+}
+
 int LimitOf(CellKind kind) {
   if (kind == CellKind::kWall) return kMaxWalls;
   return kind == CellKind::kUserItem ? kMaxUserItems : kMaxSpawnPoints;
@@ -40,6 +53,27 @@ int LimitOf(CellKind kind) {
 }  // namespace
 
 std::vector<Finding> LevelChecker::Check(std::string_view text) {
+  const auto level = LoadQuietly(text, pictures_);
+  if (text.empty()) return {{1, "the file is empty"}};
+  if (const auto line = FirstLineOfBytes(text)) {
+    return {{*line, "these bytes are no text: this is no level", level == nullptr}};
+  }
+  CheckLines(text);
+  if (cells_ == 0 && lines_.keys.empty()) return {{1, "nothing here makes a level"}};
+  CheckLetters();
+  CheckStarts();
+  Add(walls_.Find());
+  if (level) Add(CheckField(*level, lines_));
+  std::stable_sort(findings_.begin(), findings_.end(),
+                   [](const Finding& a, const Finding& b) { return a.line < b.line; });
+  return findings_;
+}
+
+void LevelChecker::Add(const std::vector<Finding>& findings) {
+  findings_.insert(findings_.end(), findings.begin(), findings.end());
+}
+
+void LevelChecker::CheckLines(std::string_view text) {
   LineReader lines(text);
   while (const auto line = lines.Next()) {
     ++line_;
@@ -48,8 +82,6 @@ std::vector<Finding> LevelChecker::Check(std::string_view text) {
     if (key == nullptr) CheckNoKey(*line);
     if (key == nullptr && line_ > kMapRows) CheckRowBelow(*line);
   }
-  CheckWhole();
-  return findings_;
 }
 
 void LevelChecker::CheckRow(std::string_view line, bool isKeyLine) {
@@ -73,17 +105,30 @@ void LevelChecker::CheckRowBelow(std::string_view line) {
 void LevelChecker::CheckCell(int column, std::string_view word, bool isKeyLine) {
   const auto code = CodeOf(word);
   if (!code) {
+    cells_ += word == kFiller ? 1 : 0;
     if (!isKeyLine && word != kFiller) Warn("the word " + Quoted(word) + " places nothing");
     return;
   }
   if (isKeyLine) Warn("this key line is a map row too: " + Quoted(word) + " is placed");
   if (column > kColumns) Warn(Quoted(word) + " lies outside the field");
+  ++cells_;
+  if (code->kind == CellKind::kWall) walls_.Put(column, line_, code->wall, word[0]);
   if (code->kind == CellKind::kStart) {
-    lastStart_ = code->snake;
-    highestStart_ = std::max(highestStart_, code->snake);
+    NoteStart(code->snake, word);
   } else {
     Count(code->kind, code->letter);
   }
+}
+
+void LevelChecker::NoteStart(int snake, std::string_view word) {
+  lastStart_ = snake;
+  highestStart_ = std::max(highestStart_, snake);
+  StartLine& start = lines_.starts[snake];
+  if (start.line != 0) {
+    Warn("the start " + Quoted(word) + " again: that of line " + std::to_string(start.line) +
+         " has no effect");
+  }
+  start = {line_, "the start " + Quoted(word)};
 }
 
 /// The cell behind the last blank that the game examines is never closed.
@@ -118,11 +163,14 @@ const KeyDef* LevelChecker::CheckKey(std::string_view line) {
       Refuse("no value that " + Quoted(def.text) + " can take");
     }
     const bool accumulates = def.key == LevelKey::kRequires || def.kind == ValueKind::kUserItem;
-    int& before = lines_[def.key];
+    int& before = lines_.keys[def.key];
     if (before != 0 && !accumulates) {
       Warn(Quoted(def.text) + " again: line " + std::to_string(before) + " has no effect");
     }
     before = line_;
+    if (def.key == LevelKey::kSnakeStrtX || def.key == LevelKey::kSnakeStrtY) {
+      lines_.starts[1] = {line_, "the player's start"};
+    }
     return &def;
   }
   return nullptr;
@@ -233,7 +281,7 @@ void LevelChecker::CheckNoKey(std::string_view line) {
   }
 }
 
-void LevelChecker::CheckWhole() {
+void LevelChecker::CheckLetters() {
   for (const auto& [name, letter] : letters_) {
     line_ = letter.line;
     const std::string shown(1, static_cast<char>(std::tolower(static_cast<unsigned char>(name))));
@@ -242,13 +290,23 @@ void LevelChecker::CheckWhole() {
       Warn("the user item " + Quoted(shown) + " gets no type and stays invisible");
     }
   }
-  if (aiSnakes_ <= 0) return;
-  line_ = lines_[LevelKey::kAIS];
+}
+
+/// As many snakes can take part as the start that is read last says.
+void LevelChecker::CheckStarts() {
+  lines_.starts.try_emplace(1, StartLine{1, "the player's start"});
+  const StartLine highest = lines_.starts.rbegin()->second;
+  line_ = highest.line;
+  for (int snake = 2; snake < highestStart_; ++snake) {
+    if (lines_.starts.contains(snake)) continue;
+    Warn("snake " + std::to_string(snake) + " has no start, though there is " + highest.name);
+  }
   if (lastStart_ < highestStart_) {
-    Warn("the start that is read last is that of snake " + std::to_string(lastStart_) +
-         ": no more snakes take part");
-  } else if (aiSnakes_ + 1 > lastStart_) {
-    Warn("the map has starts for " + std::to_string(lastStart_) + " snakes only");
+    Warn(highest.name + " is not the start that is read last: only " + std::to_string(lastStart_) +
+         " of the snakes can take part");
+  } else if (aiSnakes_ > 0 && aiSnakes_ + 1 > highestStart_) {
+    line_ = lines_.keys[LevelKey::kAIS];
+    Warn("the map has starts for " + std::to_string(highestStart_) + " snakes only");
   }
 }
 

@@ -6,31 +6,30 @@
 #include <vector>
 
 #include "content/level_format.h"
+#include "field_check.h"
+#include "finding.h"
 #include "pictures.h"
+#include "wall_gaps.h"
 
 namespace coilrun {
 
-/// Something in a level file that its author should look at.
-struct Finding {
-  int line = 0;
-  std::string text;
-  bool refused = false;  ///< the game would not load the level
-};
-
 /// Reads a level as the game does and finds what the game refuses, ignores or reads otherwise than
-/// it looks.
+/// it looks, and what makes a level that it loads unfair or unsightly.
 class LevelChecker {
  public:
   explicit LevelChecker(const Pictures& pictures) : pictures_(pictures) {}
 
+  /// All findings, by line.
   std::vector<Finding> Check(std::string_view text);
 
  private:
+  void CheckLines(std::string_view text);
   void CheckRow(std::string_view line, bool isKeyLine);
   void CheckCell(int column, std::string_view word, bool isKeyLine);
   /// A line below the map that looks like a row of it.
   void CheckRowBelow(std::string_view line);
   void CheckOpenEnd(std::string_view line);
+  void NoteStart(int snake, std::string_view word);
   void Count(CellKind kind, char letter);
   const KeyDef* CheckKey(std::string_view line);
   void CheckValue(const KeyDef& def, std::string_view line, const LevelValue& value);
@@ -39,7 +38,9 @@ class LevelChecker {
   void CheckName(const KeyDef& def, std::string_view text);
   void CheckUserItem(const KeyDef& def, const LevelValue& value);
   void CheckNoKey(std::string_view line);
-  void CheckWhole();
+  void CheckLetters();
+  void CheckStarts();
+  void Add(const std::vector<Finding>& findings);
   void Warn(const std::string& text) { findings_.push_back({line_, text, false}); }
   void Refuse(const std::string& text) { findings_.push_back({line_, text, true}); }
 
@@ -53,9 +54,11 @@ class LevelChecker {
   std::vector<Finding> findings_;
   std::map<CellKind, int> counts_;
   std::map<char, Letter> letters_;  ///< user items of the map by their upper-case letter
-  std::map<LevelKey, int> lines_;   ///< where a key was last read
+  LevelLines lines_;
+  WallGaps walls_;
   int line_ = 0;
   int archives_ = 0;
+  int cells_ = 0;  ///< of the map, fillers too
   int highestStart_ = 0;
   int lastStart_ = 0;
   double aiSnakes_ = 0;

@@ -8,6 +8,7 @@
 #include "content/archives.h"
 #include "content/load_level.h"
 #include "content/model_packs.h"
+#include "model/shown_model.h"
 #include "platform/disk_files.h"
 #include "platform/png_file.h"
 #include "platform/rar/rar_archive.h"
@@ -94,6 +95,7 @@ std::string DrawLevel(std::string_view text, const std::filesystem::path& progra
   }
   renderer.LoadStandardPictures();
   SnGetModelPacks(context);
+  state.Snakes(1).Model = kDefaultModel;
   if (!files.Write(kPath, Bytes(text.begin(), text.end()))) {
     return "cannot write into " + temporary.Path().string();
   }

@@ -1,62 +1,16 @@
 #include "level_dump.h"
 
 #include <array>
-#include <utility>
 
 #include <nlohmann/json.hpp>
 
-#include "content/load_level.h"
 #include "ports/windows_1252.h"
-#include "quiet_ports.h"
+#include "quiet_level.h"
 
 namespace coilrun {
 namespace {
 
 using Json = nlohmann::ordered_json;
-
-constexpr const char* kPath = ".\\lvl\\level.dat";
-
-/// A program folder that holds one level and the pictures that it may name; nothing is written.
-class OneLevel final : public Files {
- public:
-  OneLevel(std::string_view level, const Pictures& pictures)
-      : level_(level.begin(), level.end()), pictures_(pictures) {}
-
-  bool Exists(const std::string& path) const override {
-    constexpr std::string_view kPictures = ".\\gfx\\";
-    return path.starts_with(kPictures) && pictures_.Has(path.substr(kPictures.size()));
-  }
-  std::optional<Bytes> Read(const std::string& path) const override {
-    if (path != kPath) return std::nullopt;
-    return level_;
-  }
-  std::optional<std::vector<std::string>> List(const std::string& /*folder*/,
-                                               std::string_view /*suffix*/) const override {
-    return std::nullopt;
-  }
-  bool Write(const std::string& /*path*/, std::span<const std::uint8_t> /*bytes*/) override {
-    return false;
-  }
-  bool MakeFolder(const std::string& /*path*/) override { return false; }
-  bool Delete(const std::string& /*path*/) override { return false; }
-  std::string FullName(const std::string& path) const override { return path; }
-  std::string ShortName(const std::string& path) const override { return path; }
-  bool IsWritten(const std::string& /*path*/) const override { return false; }
-  std::string WriteProblem() const override { return {}; }
-
- private:
-  Bytes level_;
-  const Pictures& pictures_;
-};
-
-class NoArchive final : public Archive {
- public:
-  bool Open(const std::string& /*path*/) override { return false; }
-  void SetPassword(const std::string& /*password*/) override {}
-  std::optional<std::string> ReadHeader() override { return std::nullopt; }
-  bool ProcessFile(const std::optional<std::string>& /*target*/) override { return false; }
-  void Close() override {}
-};
 
 /// Whole numbers are written without a fraction.
 Json Number(double value) {
@@ -145,18 +99,13 @@ void AddMap(Json& json, const State& state) {
 }  // namespace
 
 std::optional<std::string> DumpLevel(std::string_view text, const Pictures& pictures) {
-  State state;
-  OneLevel files(text, pictures);
-  NoArchive archive;
-  NoPump pump;
-  QuietHost host(state);
-  LoadLevel({state, files, archive, pump, host}, kPath);
-  if (state.shell.NoGameRunning) return std::nullopt;
+  const auto state = LoadQuietly(text, pictures);
+  if (!state) return std::nullopt;
   Json json;
-  AddProperties(json, state.level);
-  AddItems(json, state);
-  AddCounts(json, state);
-  AddMap(json, state);
+  AddProperties(json, state->level);
+  AddItems(json, *state);
+  AddCounts(json, *state);
+  AddMap(json, *state);
   return json.dump();
 }
 

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+
+namespace coilrun {
+
+/// Something in a level file that its author should look at.
+struct Finding {
+  int line = 0;
+  std::string text;
+  bool refused = false;  ///< the game would not load the level
+};
+
+}  // namespace coilrun

@@ -1,0 +1,80 @@
+#include "quiet_level.h"
+
+#include "content/load_level.h"
+#include "quiet_ports.h"
+
+namespace coilrun {
+namespace {
+
+constexpr const char* kPath = ".\\lvl\\level.dat";
+
+/// A program folder that holds one level and the pictures that it may name; nothing is written.
+class OneLevel final : public Files {
+ public:
+  OneLevel(std::string_view level, const Pictures& pictures)
+      : level_(level.begin(), level.end()), pictures_(pictures) {}
+
+  /// From now on there may be any picture.
+  void AddUnknownPictures() { unknownPictures_ = true; }
+
+  bool Exists(const std::string& path) const override {
+    constexpr std::string_view kPictures = ".\\gfx\\";
+    if (!path.starts_with(kPictures)) return false;
+    return unknownPictures_ || pictures_.Has(path.substr(kPictures.size()));
+  }
+  std::optional<Bytes> Read(const std::string& path) const override {
+    if (path != kPath) return std::nullopt;
+    return level_;
+  }
+  std::optional<std::vector<std::string>> List(const std::string& /*folder*/,
+                                               std::string_view /*suffix*/) const override {
+    return std::nullopt;
+  }
+  bool Write(const std::string& /*path*/, std::span<const std::uint8_t> /*bytes*/) override {
+    return false;
+  }
+  bool MakeFolder(const std::string& /*path*/) override { return false; }
+  bool Delete(const std::string& /*path*/) override { return false; }
+  bool IsWritten(const std::string& /*path*/) const override { return false; }
+  std::string WriteProblem() const override { return {}; }
+  std::string FullName(const std::string& path) const override { return path; }
+  std::string ShortName(const std::string& path) const override { return path; }
+
+ private:
+  Bytes level_;
+  const Pictures& pictures_;
+  bool unknownPictures_ = false;
+};
+
+/// The archives of the level, which are not looked into.
+class ClosedArchives final : public Archive {
+ public:
+  explicit ClosedArchives(OneLevel& files) : files_(files) {}
+
+  bool Open(const std::string& /*path*/) override {
+    files_.AddUnknownPictures();
+    return false;
+  }
+  void SetPassword(const std::string& /*password*/) override {}
+  std::optional<std::string> ReadHeader() override { return std::nullopt; }
+  bool ProcessFile(const std::optional<std::string>& /*target*/) override { return false; }
+  void Close() override {}
+
+ private:
+  OneLevel& files_;
+};
+
+}  // namespace
+
+std::unique_ptr<State> LoadQuietly(std::string_view text, const Pictures& pictures) {
+  auto state = std::make_unique<State>();
+  OneLevel files(text, pictures);
+  ClosedArchives archives(files);
+  NoPump pump;
+  QuietHost host(*state);
+  LoadLevel({*state, files, archives, pump, host}, kPath);
+  if (state->shell.NoGameRunning) return nullptr;
+  return state;
+}
+
+}  // namespace coilrun

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <memory>
+#include <string_view>
+
+#include "model/state.h"
+#include "pictures.h"
+
+namespace coilrun {
+
+/// What the game's loader makes of a level, without any pictures or files; nothing when it refuses
+/// the level. A picture that lies in an archive of the level's own is taken to be there.
+std::unique_ptr<State> LoadQuietly(std::string_view text, const Pictures& pictures);
+
+}  // namespace coilrun
