@@ -47,6 +47,7 @@ Ports With(const CommonPorts& common, KeySource& keys, MessageBox& box) {
 }
 
 int RunProgram(State& state, const Ports& ports, const HostOptions& options) {
+  state.more.isClassic = options.classic;
   try {
     Program program(state, ports, COILRUN_VERSION);
     program.Run(options.commandLine);

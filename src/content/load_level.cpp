@@ -38,6 +38,7 @@ void ResetSnake(State& state, int number) {
   snake.Dir = Dir::kNone;
   snake.NextDir = Dir::kNone;
   ResetSnakeBody(state, number);
+  if (state.People.Holds(number)) state.People(number) = {};
   for (Int16 SnakeRec::*const field :
        {&SnakeRec::Frags, &SnakeRec::Deaths, &SnakeRec::RedEaten, &SnakeRec::BlueEaten,
         &SnakeRec::BlackEaten, &SnakeRec::YellowEaten, &SnakeRec::PowerEaten, &SnakeRec::TNT}) {

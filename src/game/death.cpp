@@ -4,6 +4,7 @@
 #include "game/game_over.h"
 #include "game/waiting.h"
 #include "model/feed.h"
+#include "model/scan_codes.h"
 
 namespace coilrun {
 namespace {
@@ -15,7 +16,7 @@ void LoseLifeScreen(Game& game) {
   SetCenterLine(game.state, 0, "Uh - You loose a live...", 215);
   SetCenterLine(game.state, 1, "-Press Enter-", 230);
   FrameCenterLines(game.state);
-  WaitForKey(game, kEnterKey);
+  WaitForKey(game, kKeyEnter);
   ClearCenterLines(game.state);
 }
 
@@ -72,6 +73,7 @@ void KillSnake(Game& game, int snake, DeathCause cause, int other) {
 void RespawnSnake(State& state, int snake) {
   SnakeRec& body = state.Snakes(snake);
   ResetSnakeBody(state, snake);
+  if (state.People.Holds(snake)) state.People(snake).queue = {};
   StandAtStart(state, snake);
   if (IsMultiplayer(state.mode.GameMode)) {
     LoseHarvest(body);

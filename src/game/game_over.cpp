@@ -5,6 +5,7 @@
 
 #include "game/snake_timers.h"
 #include "game/waiting.h"
+#include "model/scan_codes.h"
 
 namespace coilrun {
 namespace {
@@ -45,7 +46,7 @@ void GameOverScreen(Game& game) {
     }
   }
   FrameCenterLines(state);
-  WaitForKey(game, kEnterKey);
+  WaitForKey(game, kKeyEnter);
   ClearCenterLines(state);
   state.overlay = WaitOverlay::kNone;
 }

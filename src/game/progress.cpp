@@ -6,6 +6,7 @@
 #include "game/game_over.h"
 #include "game/waiting.h"
 #include "model/numbers.h"
+#include "model/scan_codes.h"
 #include "ports/files.h"
 
 namespace coilrun {
@@ -39,7 +40,7 @@ void CompletionScreen(Game& game) {
                   state.CenterLines(3).Text.empty() ? 260 : 275);
   }
   FrameCenterLines(state);
-  WaitForKey(game, kEnterKey);
+  WaitForKey(game, kKeyEnter);
   ClearCenterLines(state);
 }
 
@@ -97,7 +98,7 @@ void CheckTimeLimit(Game& game) {
   if (state.mode.TimePass || level.Timeout == 0 || level.ElapsedSecs < level.Timeout) return;
   state.shell.WaitingAfterTimeout = true;
   state.overlay = WaitOverlay::kTimeLimit;
-  WaitForKey(game, kEnterKey);
+  WaitForKey(game, kKeyEnter);
   state.overlay = WaitOverlay::kNone;
   state.shell.WaitingAfterTimeout = false;
   state.shell.WaitingForStart = true;

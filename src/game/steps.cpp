@@ -3,6 +3,7 @@
 #include "game/appearance.h"
 #include "game/movement.h"
 #include "game/progress.h"
+#include "game/turn_queue.h"
 #include "game/walls.h"
 
 namespace coilrun {
@@ -32,6 +33,7 @@ void BeginPlayerStep(Game& game) {
 
 void EndPlayerStep(State& state) {
   BodyUpdate(state, kPlayer);
+  TakeQueuedTurn(state, kPlayer);
   state.timers.StartEvenly(StepTimer(state, kPlayer));
 }
 

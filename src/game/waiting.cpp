@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "model/scan_codes.h"
+
 namespace coilrun {
 namespace {
 
@@ -12,6 +14,13 @@ constexpr int kBoxTop = 200;
 constexpr int kRowHeight = 15;
 /// The box takes the centred texts from this one on.
 constexpr int kFirstBoxLine = 5;
+
+/// Whether the last key is the one that is waited for; Space does for Enter, when the player wants
+/// it.
+bool Answers(const State& state, int scanCode) {
+  const int key = state.keys.LastKey;
+  return key == scanCode || (state.more.AnyKey && scanCode == kKeyEnter && key == kKeySpace);
+}
 
 }  // namespace
 
@@ -24,7 +33,7 @@ void WaitForKey(Game& game, int scanCode) {
   while (waiting) {
     game.host.Yield();
     game.host.DrawFrame();
-    waiting = !state.shell.WaitAborted && state.keys.LastKey != scanCode;
+    waiting = !state.shell.WaitAborted && !Answers(state, scanCode);
     state.shell.WaitAborted = false;
   }
   state.shell.lvlTime = true;

@@ -6,8 +6,6 @@
 
 namespace coilrun {
 
-inline constexpr int kEnterKey = 28;
-
 /// Waits, with the screen kept drawn and the level clock stopped, for the key with this scan code
 /// or until the wait is aborted.
 void WaitForKey(Game& game, int scanCode);

@@ -2,6 +2,10 @@
 
 namespace coilrun {
 
+State::State() {
+  for (int person = 1; person <= kMaxPeople; ++person) Keys(person) = BuiltInKeys(person);
+}
+
 void ReseedFromClock(State& state) {
   state.Rnd.Reseed(state.clockSeed + static_cast<std::uint64_t>(state.timers.now));
 }

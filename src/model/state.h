@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "model/level_setting.h"
+#include "model/more.h"
 #include "model/records.h"
 #include "model/rnd.h"
 #include "model/table.h"
@@ -78,7 +79,10 @@ struct MenuState {
   coilrun::MenuAction MenuAction = coilrun::MenuAction::kNone;
   Table<bool, 4> EntryLit;
   std::string StatusText;
-  bool statusHeld = false;  ///< a failure's text stays until the next key
+  bool statusHeld = false;  ///< a failure's or a question's text stays until the next key
+  bool asked = false;       ///< whether the running game shall be given up
+  int EnteredPlace = 0;     ///< of the high score that was just made; 0 without one
+  bool EditsName = false;   ///< that entry's name is being typed
   std::string CreditsText;
   Int32 CreditsPos;
   std::string CreditsTicker;
@@ -202,6 +206,8 @@ struct WitnessState {
 
 /// The whole state of the program. Made in one place and handed down by reference.
 struct State {
+  State();
+
   ShellState shell;
   ModeState mode;
   MenuState menus;
@@ -212,6 +218,9 @@ struct State {
   Timers timers;
   MusicState music;
   WitnessState witness;
+  MoreState more;
+  Table<SteeringKeys, kMaxPeople> Keys{};
+  Table<Person, kMaxPeople> People;
 
   Table<CenterLine, 16, 0> CenterLines;
   WaitOverlay overlay = WaitOverlay::kNone;
@@ -234,6 +243,11 @@ struct State {
   ItemList& Items(ItemKind kind) { return itemLists[static_cast<std::size_t>(kind)]; }
   const ItemList& Items(ItemKind kind) const { return itemLists[static_cast<std::size_t>(kind)]; }
 };
+
+/// The people who play on this machine: snakes 1 to this number.
+inline int PeopleInPlay(const State& state) {
+  return std::clamp<int>(state.more.Players, 1, kMaxPeople);
+}
 
 /// Seeds `Rnd` from the clock.
 void ReseedFromClock(State& state);

@@ -13,7 +13,7 @@ constexpr std::array<string_view, 13> kDirWords = {
 constexpr std::array<string_view, 8> kWallWords = {"", "v", "h", "v_l", "v_r", "h_t", "h_b", "s"};
 constexpr std::array<string_view, 3> kModeWords = {"", "DM", "NDM"};
 constexpr std::array<string_view, 4> kActionWords = {"", "cycle", "-", "+"};
-constexpr std::array<string_view, 3> kTargetWords = {"", "PlayerName", "Cheat"};
+constexpr std::array<string_view, 4> kTargetWords = {"", "PlayerName", "Cheat", "ScoreName"};
 
 template <typename Enum, std::size_t N>
 std::optional<Enum> Find(const std::array<string_view, N>& words, string_view word) {

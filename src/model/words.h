@@ -39,7 +39,7 @@ enum class GameMode : std::uint8_t { kSingle, kDeathmatch, kNetDeathmatch };
 enum class MenuAction : std::uint8_t { kNone, kCycle, kMinus, kPlus };
 
 /// What typed characters edit.
-enum class InputTarget : std::uint8_t { kNone, kPlayerName, kCheat };
+enum class InputTarget : std::uint8_t { kNone, kPlayerName, kCheat, kScoreName };
 
 constexpr bool IsMultiplayer(GameMode mode) {
   return mode != GameMode::kSingle;

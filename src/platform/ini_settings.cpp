@@ -120,7 +120,12 @@ void IniSettings::SetAside(const std::string& reason) {
 
 std::optional<std::string> IniSettings::Get(std::string_view section, std::string_view key) const {
   auto value = store_->Get(section, key);
-  return value ? value : defaults_->Get(section, key);
+  return value ? value : Shipped(section, key);
+}
+
+std::optional<std::string> IniSettings::Shipped(std::string_view section,
+                                                std::string_view key) const {
+  return defaults_->Get(section, key);
 }
 
 void IniSettings::Set(std::string_view section, std::string_view key, std::string_view value) {

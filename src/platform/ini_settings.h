@@ -25,6 +25,7 @@ class IniSettings : public SettingsStore {
   ~IniSettings() override;
 
   std::optional<std::string> Get(std::string_view section, std::string_view key) const override;
+  std::optional<std::string> Shipped(std::string_view section, std::string_view key) const override;
   void Set(std::string_view section, std::string_view key, std::string_view value) override;
   bool Refresh() override;
   bool Save() override;

@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <cstdlib>
 
-#include "platform/arrow_codes.h"
-
 namespace coilrun {
 namespace {
 
@@ -13,29 +11,29 @@ constexpr int kLetGoAt = 11'000;
 /// How much more to the other axis a held direction has to lean before it changes.
 constexpr int kAxisGrip = 4'000;
 
-bool IsSideways(int arrow) {
-  return arrow == kLeftCode || arrow == kRightCode;
+bool IsSideways(PadDirection direction) {
+  return direction == PadDirection::kLeft || direction == PadDirection::kRight;
 }
 
-int ArrowFor(int x, int y, bool sideways) {
-  if (sideways) return x < 0 ? kLeftCode : kRightCode;
-  return y < 0 ? kUpCode : kDownCode;
+PadDirection DirectionFor(int x, int y, bool sideways) {
+  if (sideways) return x < 0 ? PadDirection::kLeft : PadDirection::kRight;
+  return y < 0 ? PadDirection::kUp : PadDirection::kDown;
 }
 
 }  // namespace
 
-int Stick::Lean(int x, int y) {
+std::optional<PadDirection> Stick::Lean(int x, int y) {
   const int across = std::abs(x);
   const int along = std::abs(y);
-  if (std::max(across, along) < (arrow_ == 0 ? kTakeAt : kLetGoAt)) {
-    arrow_ = 0;
-  } else if (arrow_ == 0) {
-    arrow_ = ArrowFor(x, y, across >= along);
+  if (std::max(across, along) < (held_ ? kLetGoAt : kTakeAt)) {
+    held_.reset();
+  } else if (!held_) {
+    held_ = DirectionFor(x, y, across >= along);
   } else {
-    const int grip = IsSideways(arrow_) ? kAxisGrip : -kAxisGrip;
-    arrow_ = ArrowFor(x, y, across + grip >= along);
+    const int grip = IsSideways(*held_) ? kAxisGrip : -kAxisGrip;
+    held_ = DirectionFor(x, y, across + grip >= along);
   }
-  return arrow_;
+  return held_;
 }
 
 }  // namespace coilrun

@@ -14,6 +14,9 @@ class SettingsStore {
   /// The stored text, else the shipped default ("defaults.ini" of the program folder), else
   /// nothing.
   virtual std::optional<std::string> Get(std::string_view section, std::string_view key) const = 0;
+  /// The shipped default alone.
+  virtual std::optional<std::string> Shipped(std::string_view section,
+                                             std::string_view key) const = 0;
   /// Changes a value in memory; `Save` makes it last.
   virtual void Set(std::string_view section, std::string_view key, std::string_view value) = 0;
   /// Takes in what another running instance has stored meanwhile. True when that was anything.

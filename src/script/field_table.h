@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <limits>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -31,6 +32,7 @@ inline constexpr Range kTimerInterval{0, std::numeric_limits<std::uint16_t>::max
 ///   ReadOnly(name, value)            a field that cannot be set
 ///   Object(name, visitInside)
 ///   Texts(name, table)               an array of texts
+///   List(name, values)               an array that cannot be set, below one that cannot either
 ///   Array(name, first, last, visitSlot)         an array of objects, slots `first` to `last`
 ///   ReadOnlyArray(name, first, last, visitSlot)
 ///
@@ -59,6 +61,9 @@ class FieldTable {
     VisitMusic();
     VisitDrawn();
     VisitModelPacks();
+    VisitMore();
+    VisitKeys();
+    VisitHumans();
   }
 
  private:
@@ -371,6 +376,50 @@ class FieldTable {
                    visit_.Field("EdgesInverse", pack.EdgesInverse);
                    visit_.Field("TailEdges", pack.TailEdges);
                  });
+  }
+
+  void VisitMore() const {
+    auto& more = state_.more;
+    visit_.Object("More", [&] {
+      visit_.ReadOnly("Page", more.Page);
+      visit_.ReadOnly("Cursor", more.Cursor);
+      visit_.Field("Turns", more.Turns);
+      visit_.Field("Motion", more.Motion);
+      visit_.Field("Effects", more.Effects);
+      visit_.Field("Confirm", more.Confirm);
+      visit_.Field("AnyKey", more.AnyKey);
+      visit_.Field("Rivals", more.Rivals);
+      visit_.Field("Players", more.Players, Range{1, kMaxPeople});
+      visit_.Field("Record", more.Record);
+      visit_.Object("Match", [&] { VisitMatch(more.Match); });
+    });
+  }
+
+  template <typename Choice>
+  void VisitMatch(Choice& match) const {
+    visit_.Field("Mode", match.Mode);
+    visit_.Field("Level", match.Level);
+    visit_.Field("Computers", match.Computers, Range{-1, kMaxSnakes - 1});
+    visit_.Field("Limit", match.Limit);
+  }
+
+  void VisitKeys() const {
+    visit_.ReadOnlyArray("Keys", 1, kMaxPeople, [&](int person) {
+      const SteeringKeys& keys = state_.Keys(person);
+      visit_.List("Up", keys.Up);
+      visit_.List("Down", keys.Down);
+      visit_.List("Left", keys.Left);
+      visit_.List("Right", keys.Right);
+    });
+  }
+
+  void VisitHumans() const {
+    visit_.ReadOnlyArray("Humans", 1, PeopleInPlay(state_), [&](int person) {
+      const Person& human = state_.People(person);
+      visit_.ReadOnly("Snake", person);
+      visit_.List("Queue", std::span(human.queue.turns).first(human.queue.count));
+      visit_.ReadOnly("Out", human.Out);
+    });
   }
 
   static constexpr int kLastScanCode = 255;

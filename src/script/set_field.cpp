@@ -56,6 +56,13 @@ Problem Assign(std::string& target, std::string_view value) {
   return std::nullopt;
 }
 
+Problem Assign(RivalList& target, std::string_view value) {
+  auto rivals = RivalsFromText(WithoutBlanksAround(value));
+  if (!rivals) return Quoted(value) + " is no list of rivals";
+  target = *std::move(rivals);
+  return std::nullopt;
+}
+
 template <typename Enum>
 requires std::is_enum_v<Enum> Problem Assign(Enum& target, std::string_view value) {
   const auto word = FromWord<Enum>(WithoutBlanksAround(value));
@@ -121,6 +128,9 @@ class FieldSetter {
     }
     Finish(Assign(table(*slot), value_));
   }
+
+  template <typename Values>
+  void List(std::string_view /*name*/, const Values& /*values*/) const {}
 
   Problem Outcome() {
     EndOfBranch();

@@ -72,6 +72,17 @@ class JsonLine {
     json_ += ']';
   }
 
+  template <typename Values>
+  void List(std::string_view name, const Values& values) {
+    Key(name);
+    json_ += '[';
+    for (const auto& value : values) {
+      if (json_.back() != '[') json_ += ',';
+      Append(value);
+    }
+    json_ += ']';
+  }
+
  private:
   void Key(std::string_view name) {
     if (json_.back() != '{') json_ += ',';
@@ -100,6 +111,8 @@ class JsonLine {
     json_ += Word(value);
     json_ += '"';
   }
+
+  void Append(const RivalList& rivals) { Append(RivalText(rivals)); }
 
   void AppendCharacter(char character) {
     constexpr std::string_view kHexDigits = "0123456789abcdef";

@@ -33,7 +33,8 @@ bool TakeFps(HostOptions& options, const std::string& value) {
   return ParseNumber(value, options.fps) && options.fps >= 1 && options.fps <= kMostFps;
 }
 
-constexpr std::array<FlagOption, 4> kFlags = {{{"--windowed", &HostOptions::windowed},
+constexpr std::array<FlagOption, 5> kFlags = {{{"--windowed", &HostOptions::windowed},
+                                               {"--classic", &HostOptions::classic},
                                                {"--headless", &HostOptions::headless},
                                                {"--help", &HostOptions::help},
                                                {"--version", &HostOptions::version}}};
@@ -107,6 +108,7 @@ std::string HelpText() {
          "  --data DIR       the program folder (lvl, gfx.snr, models, music)\n"
          "  --user DIR       where settings and unpacked files are kept\n"
          "  --windowed       a window instead of the full screen\n"
+         "  --classic        the game without its further settings and keys\n"
          "  --headless       no window, no sound, virtual time\n"
          "  --script FILE    keys and questions of a headless run (- is standard input)\n"
          "  --trace FILE     where a headless run writes its state lines\n"

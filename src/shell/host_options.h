@@ -13,6 +13,7 @@ struct HostOptions {
   std::optional<std::filesystem::path> data;
   std::optional<std::filesystem::path> user;
   bool windowed = false;
+  bool classic = false;
   bool headless = false;
   std::optional<std::string> script;  ///< "-" reads standard input
   std::optional<std::string> trace;

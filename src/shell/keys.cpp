@@ -1,9 +1,12 @@
 #include "shell/keys.h"
 
+#include <algorithm>
+#include <array>
 #include <string>
 
+#include "game/turn_queue.h"
+#include "model/scan_codes.h"
 #include "shell/cheats.h"
-#include "shell/key_codes.h"
 #include "shell/leaving.h"
 #include "shell/main_menu.h"
 #include "shell/scan_to_char.h"
@@ -28,6 +31,26 @@ void DropLast(std::string& text) {
   if (!text.empty()) text.pop_back();
 }
 
+/// What a controller's direction does in the menus.
+int AsArrow(int key) {
+  constexpr std::array<int, kPadDirections> kArrows = {kKeyUp, kKeyDown, kKeyLeft, kKeyRight};
+  if (key < kFirstPadCode) return key;
+  return kArrows.at(static_cast<std::size_t>((key - kFirstPadCode) % kPadDirections));
+}
+
+/// Where the player's keys and controllers steer to; `kNone` for any other key.
+Dir SteeringOf(const State& state, int key) {
+  constexpr std::array kDirections = {Dir::kForw, Dir::kBack, Dir::kLeft, Dir::kRight};
+  if (key >= kFirstPadCode) {
+    return kDirections.at(static_cast<std::size_t>((key - kFirstPadCode) % kPadDirections));
+  }
+  const auto* const found = std::find_if(kDirections.begin(), kDirections.end(), [&](Dir dir) {
+    const auto& codes = KeysOf(state.Keys(kPlayer), dir);
+    return std::find(codes.begin(), codes.end(), key) != codes.end();
+  });
+  return found == kDirections.end() ? Dir::kNone : *found;
+}
+
 void MainPageKey(Shell& shell, int key) {
   MenuState& menus = shell.state.menus;
   if (key == kKeyUp) --menus.MainCursor;
@@ -43,8 +66,10 @@ void OptionsPageKey(MenuState& menus, int key) {
   if (key == kKeyRight) menus.MenuAction = MenuAction::kPlus;
 }
 
-void MenuKey(Shell& shell, int key) {
+void MenuKey(Shell& shell, int pressed) {
+  const int key = AsArrow(pressed);
   shell.state.menus.statusHeld = false;
+  if (key != kKeyEnter) shell.state.menus.asked = false;
   if (OnOptionsPage(shell.state)) {
     OptionsPageKey(shell.state.menus, key);
   } else if (!OnScorePage(shell.state)) {
@@ -53,17 +78,25 @@ void MenuKey(Shell& shell, int key) {
 }
 
 void PlayKey(State& state, int key) {
-  SnakeRec& player = state.Snakes(kPlayer);
-  if (key == kKeyUp) player.NextDir = Dir::kForw;
-  if (key == kKeyDown) player.NextDir = Dir::kBack;
-  if (key == kKeyLeft) player.NextDir = Dir::kLeft;
-  if (key == kKeyRight) player.NextDir = Dir::kRight;
+  const Dir asked = SteeringOf(state, key);
+  if (asked != Dir::kNone) AskTurn(state, kPlayer, asked);
   state.shell.WaitingForStart = false;
+}
+
+/// Enter, Space and the steering keys close the level screen, when the player wants it so.
+void LevelScreenKey(State& state, int key) {
+  ShellState& now = state.shell;
+  if (!state.more.AnyKey || !now.ShowLevelScreen || now.InMenu || now.WaitingForKey) return;
+  const bool steers = SteeringOf(state, key) != Dir::kNone;
+  if (!steers && key != kKeyEnter && key != kKeySpace) return;
+  now.ShowLevelScreen = false;
+  if (steers) PlayKey(state, key);
 }
 
 void DispatchKey(Shell& shell, int key) {
   const ShellState& now = shell.state.shell;
-  if (now.IsPause || now.LevelIntroPending || now.ShowLevelScreen) return;
+  if (now.IsPause) return;
+  if (now.LevelIntroPending || now.ShowLevelScreen) return LevelScreenKey(shell.state, key);
   if (now.InMenu) {
     MenuKey(shell, key);
   } else {

@@ -89,6 +89,17 @@ void PrepareMenus(Shell& shell) {
   if (!menus.statusHeld) menus.StatusText.clear();
 }
 
+/// Whether Enter on "New Game" has to be pressed once more, because it gives up a running game.
+bool AsksFirst(State& state) {
+  MenuState& menus = state.menus;
+  if (!state.more.Confirm || state.shell.NoGameRunning) return false;
+  menus.asked = !menus.asked;
+  if (!menus.asked) return false;
+  menus.StatusText = "Press Enter again to give up the running game";
+  menus.statusHeld = true;
+  return true;
+}
+
 void EnterNewGame(Shell& shell) {
   StartNewGame(shell.game);
   if (shell.state.shell.NoGameRunning) return;
@@ -115,6 +126,7 @@ void ShowMenus(Shell& shell) {
 
 void MenuSelect(Shell& shell) {
   MenuState& menus = shell.state.menus;
+  if (menus.MainCursor == kNewGame && AsksFirst(shell.state)) return;
   menus.ScorePage = 0;
   menus.OptionsPage = 0;
   shell.game.host.PlayEffect("\\snd\\collect.wav", kPlayer);

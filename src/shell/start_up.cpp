@@ -4,6 +4,7 @@
 #include "shell/command_line.h"
 #include "shell/leaving.h"
 #include "shell/main_loop.h"
+#include "shell/more_settings.h"
 
 namespace coilrun {
 namespace {
@@ -59,6 +60,7 @@ void StartUp(Shell& shell, std::string_view version, const std::string& commandL
   state.feed.introCaption = "Coilrun v. " + std::string{version} + " loading...";
   state.mode.KeyboardLayout = "US";
   shell.game.host.LoadSettings();
+  LoadMoreSettings(state, shell.ports.settings);
   CheckLevelFolder(shell);
   shell.pump.Yield();
   RunSwitches(shell, commandLine);

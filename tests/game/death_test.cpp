@@ -3,6 +3,7 @@
 #include "field.h"
 #include "game/death_messages.h"
 #include "game/waiting.h"
+#include "model/scan_codes.h"
 
 namespace coilrun {
 namespace {
@@ -140,10 +141,10 @@ TEST(WaitForKey, EndsOnItsKeyOrWhenAborted) {
       if (field.host.yields == 2) field.state.keys.LastKey = 57;
       if (field.host.yields < 3) return;
       field.state.shell.WaitAborted = abort;
-      if (!abort) field.state.keys.LastKey = kEnterKey;
+      if (!abort) field.state.keys.LastKey = kKeyEnter;
     };
-    field.state.keys.LastKey = kEnterKey;
-    EXPECT_EQ(field.After([](Game& game) { WaitForKey(game, kEnterKey); }), "lvlTime=1");
+    field.state.keys.LastKey = kKeyEnter;
+    EXPECT_EQ(field.After([](Game& game) { WaitForKey(game, kKeyEnter); }), "lvlTime=1");
     EXPECT_EQ(field.host.overlays.size(), 3U) << "an earlier Enter does not count";
   }
 }

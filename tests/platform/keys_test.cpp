@@ -1,9 +1,11 @@
+#include <optional>
 #include <string_view>
+#include <tuple>
 
 #include <gtest/gtest.h>
 
-#include "platform/arrow_codes.h"
 #include "platform/key_queue.h"
+#include "platform/pad_codes.h"
 #include "platform/stick.h"
 
 namespace coilrun {
@@ -64,23 +66,25 @@ TEST(KeyQueue, DifferentKeysChangeInOnePollAndStrangeCodesAreIgnored) {
   EXPECT_NE(keys[28], 0);
 }
 
-TEST(Stick, LeansToOneArrowAtATime) {
-  struct {
-    int x, y, arrow;
-  } constexpr kSteps[] = {
-      {0, 0, 0},
-      {15'000, 0, 0},
-      {17'000, 9'000, kRightCode},
-      {12'000, 0, kRightCode},       // let go nearer to the middle only
-      {20'000, 22'000, kRightCode},  // nearly diagonal: keeps its direction
-      {20'000, 26'000, kDownCode},
-      {-32'768, -32'768, kUpCode},
-      {-32'768, -20'000, kLeftCode},
-      {9'000, -9'000, 0},
+TEST(Stick, LeansToOneDirectionAtATime) {
+  using enum PadDirection;
+  const std::tuple<int, int, std::optional<PadDirection>> steps[] = {
+      {0, 0, std::nullopt},      {15'000, 0, std::nullopt},
+      {17'000, 9'000, kRight},   {12'000, 0, kRight},  // let go nearer to the middle only
+      {20'000, 22'000, kRight},                        // nearly diagonal: keeps its direction
+      {20'000, 26'000, kDown},   {-32'768, -32'768, kUp},
+      {-32'768, -20'000, kLeft}, {9'000, -9'000, std::nullopt},
   };
   Stick stick;
-  for (const auto& step : kSteps)
-    EXPECT_EQ(stick.Lean(step.x, step.y), step.arrow) << step.x << " " << step.y;
+  for (const auto& [x, y, direction] : steps)
+    EXPECT_EQ(stick.Lean(x, y), direction) << x << " " << y;
+}
+
+TEST(PadCodes, AreFourAControllerUpToTheFourth) {
+  EXPECT_EQ(PadCode(0, PadDirection::kUp), 240);
+  EXPECT_EQ(PadCode(1, PadDirection::kLeft), 246);
+  EXPECT_EQ(PadCode(3, PadDirection::kRight), 255);
+  EXPECT_EQ(PadCode(9, PadDirection::kRight), 255);
 }
 
 }  // namespace

@@ -95,8 +95,13 @@ ProgramFolder::~ProgramFolder() {
   fs::remove_all(home_, ignored);
 }
 
-GameRun ProgramFolder::Play(const std::string& script,
-                            const std::vector<std::string>& arguments) const {
+GameRun ProgramFolder::Play(const std::string& script, std::vector<std::string> arguments) const {
+  arguments.emplace_back("--classic");
+  return PlayAsShipped(script, arguments);
+}
+
+GameRun ProgramFolder::PlayAsShipped(const std::string& script,
+                                     const std::vector<std::string>& arguments) const {
   std::ofstream(home_ / "script.txt") << script;
   fs::remove(home_ / "trace.jsonl");
   std::vector<std::string> all = {"--headless", "--data",  Data().string(), "--script",

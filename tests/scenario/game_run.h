@@ -50,8 +50,12 @@ class ProgramFolder {
   /// Where the program runs, and where a script's pictures land.
   const std::filesystem::path& Home() const { return home_; }
 
-  /// Runs the built program headless with a script. It is stopped after two minutes.
-  GameRun Play(const std::string& script, const std::vector<std::string>& arguments = {}) const;
+  /// Runs the built program headless with a script, as a classic game. It is stopped after two
+  /// minutes.
+  GameRun Play(const std::string& script, std::vector<std::string> arguments = {}) const;
+  /// The same with the further settings that ship.
+  GameRun PlayAsShipped(const std::string& script,
+                        const std::vector<std::string>& arguments = {}) const;
   /// Runs the built program with these arguments only.
   GameRun Run(const std::vector<std::string>& arguments) const;
 

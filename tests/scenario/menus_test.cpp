@@ -71,6 +71,46 @@ TEST(Menus, EveryOptionDoesWhatItSaysAndIsFoundAgain) {
   }
 }
 
+TEST(Menus, AGameIsGivenUpOnlyByTwoEnters) {
+  const ProgramFolder folder;
+  Fingers keys(500);
+  keys.Tap(kF1).Then("set Snakes.1.Score 7").Tap(kEscape).Then("state", 600);
+  keys.Tap(kEnter).Then("state").Tap(kDown).Tap(kUp).Tap(kEnter).Then("state");
+  keys.Tap(kEnter).Then("state").Then("end");
+  const GameRun run = folder.PlayAsShipped(keys.Text(), {"/L=lvl3.dat"});
+  ASSERT_THAT(run.states, SizeIs(4)) << run.errors;
+  for (const std::size_t asked : {1, 2}) {
+    EXPECT_EQ(run.states[asked]["StatusText"], "Press Enter again to give up the running game");
+    EXPECT_EQ(run.states[asked]["Snakes"][0]["Score"], 7);
+  }
+  EXPECT_EQ(run.states[3]["lvlName"], "Bare Field");
+  EXPECT_EQ(run.states[3]["InMenu"], false);
+}
+
+TEST(Menus, ASteeringKeyStartsALevelAndHasteIsHarmless) {
+  const ProgramFolder folder;
+  const auto script = ScriptText()
+                          .At(500, "tap 200")  // closes the level screen and steers up
+                          .At(550, "tap 30")   // A: left, then
+                          .At(580, "tap 31")   // S: down, in the same step
+                          .At(600, "state")
+                          .At(900, "state")
+                          .At(1000, "set Snakes.1.X 20")
+                          .At(1000, "tap 203")
+                          .At(1600, "state")
+                          .At(1600, "tap 57")
+                          .At(1800, "state")
+                          .At(1800, "end");
+  const GameRun run = folder.PlayAsShipped(script.Text(), {"/L=lvl3.dat"});
+  ASSERT_THAT(run.states, SizeIs(4)) << run.errors;
+  EXPECT_EQ(run.states[0]["ShowLevelScreen"], false);
+  EXPECT_EQ(run.states[0]["WaitingForStart"], false);
+  EXPECT_EQ(run.states[1]["Snakes"][0]["Dir"], "Back") << "up, left, down: a U-turn, step by step";
+  EXPECT_EQ(run.states[1]["Snakes"][0]["Deaths"], 0);
+  EXPECT_EQ(run.states[2]["WaitingAfterDeath"], true);
+  EXPECT_EQ(run.states[3]["WaitingAfterDeath"], false) << "Space answers";
+}
+
 TEST(Menus, TheCursorWrapsAndExitLeavesNothingUnpacked) {
   const ProgramFolder folder;
   Fingers exit(500);

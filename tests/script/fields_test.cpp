@@ -49,12 +49,14 @@ std::string FieldName(const std::string& pointer) {
 
 bool IsReadOnly(std::string_view name) {
   return name == "ms" || name == "Music.Position" || name.starts_with("Sounds.") ||
-         name.starts_with("Drawn.");
+         name.starts_with("Drawn.") || name.starts_with("Keys.") || name.starts_with("Humans.") ||
+         name == "More.Page" || name == "More.Cursor";
 }
 
 /// Setting one of these changes how many slots are live.
 bool IsCount(std::string_view name) {
-  return name.starts_with("num") || name.ends_with(".Length") || name == "LastModel";
+  return name.starts_with("num") || name.ends_with(".Length") || name == "LastModel" ||
+         name == "More.Players";
 }
 
 /// Another value of the same field.
@@ -69,6 +71,11 @@ json Changed(std::string_view name, const json& value) {
   if (field == "GameMode") return "NDM";
   if (field == "MenuAction") return "+";
   if (field == "InputTarget") return "Cheat";
+  if (field == "Turns") return "queue";
+  if (field == "Motion") return "smooth";
+  if (field == "Effects") return "calm";
+  if (field == "Rivals") return "classic,master";
+  if (name == "More.Match.Mode") return "hunting";
   return " \"Gr\xC3\xB6\xC3\x9F"
          "e\" \xE2\x82\xAC 5\\ ";
 }
@@ -120,7 +127,10 @@ TEST(Fields, RefusesWhatDoesNotFitAndLeavesTheStateAlone) {
        {"x"}},
       {{"Timers.iWait.16.Interval", "Timers.tmr1.Interval"}, {"100"}},
       {{"ms", "Music.Position", "Drawn.1.Text", "Sounds.1.Path"}, {"5"}},
+      {{"More.Page", "More.Cursor", "Keys.1.Up", "Humans.1.Queue", "Humans.1.Out"}, {"1", ""}},
       // Values of the wrong kind or out of range.
+      {{"More.Turns", "More.Effects", "More.Rivals", "More.Match.Mode"}, {"Queue", "", "classic,"}},
+      {{"More.Players"}, {"0", "5"}},
       {{"GodMode", "Timers.ResetSpeed.Enabled"}, {"yes", "1", "", "on"}},
       {{"Snakes.1.X"}, {"1.5", "0x10", "12 apples", "", "32768", "-32769"}},
       {{"Snakes.1.Score"}, {"2147483648", "99999999999999999999"}},

@@ -19,6 +19,10 @@ class MemorySettings final : public SettingsStore {
     if (found == values.end()) return std::nullopt;
     return found->second;
   }
+  std::optional<std::string> Shipped(std::string_view /*section*/,
+                                     std::string_view /*key*/) const override {
+    return std::nullopt;
+  }
   void Set(std::string_view section, std::string_view key, std::string_view value) override {
     values[Key{section, key}] = value;
   }

@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <array>
 
-#include "platform/arrow_codes.h"
-
 namespace coilrun {
 namespace {
 
@@ -108,12 +106,12 @@ constexpr auto kKeyCodes = std::to_array<KeyCode>({
     {SDL_SCANCODE_RALT, 184},
     {SDL_SCANCODE_PAUSE, 197},
     {SDL_SCANCODE_HOME, 199},
-    {SDL_SCANCODE_UP, kUpCode},
+    {SDL_SCANCODE_UP, 200},
     {SDL_SCANCODE_PAGEUP, 201},
-    {SDL_SCANCODE_LEFT, kLeftCode},
-    {SDL_SCANCODE_RIGHT, kRightCode},
+    {SDL_SCANCODE_LEFT, 203},
+    {SDL_SCANCODE_RIGHT, 205},
     {SDL_SCANCODE_END, 207},
-    {SDL_SCANCODE_DOWN, kDownCode},
+    {SDL_SCANCODE_DOWN, 208},
     {SDL_SCANCODE_PAGEDOWN, 209},
     {SDL_SCANCODE_INSERT, 210},
     {SDL_SCANCODE_DELETE, 211},

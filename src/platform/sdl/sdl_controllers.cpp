@@ -1,16 +1,18 @@
 #include "platform/sdl/sdl_controllers.h"
 
-#include "platform/arrow_codes.h"
+#include <algorithm>
+
+#include "platform/pad_codes.h"
 
 namespace coilrun {
-namespace {
 
-/// The key that a button stands for; 0 for none.
-int KeyOfButton(int button) {
+int SdlControllers::KeyOfButton(const SDL_ControllerButtonEvent& event) const {
   constexpr int kEscapeCode = 1;
   constexpr int kEnterCode = 28;
   constexpr int kPauseCode = 197;
-  switch (button) {
+  const auto found = controllers_.find(event.which);
+  const int number = found == controllers_.end() ? 0 : found->second.number;
+  switch (event.button) {
     case SDL_CONTROLLER_BUTTON_A:
       return kEnterCode;
     case SDL_CONTROLLER_BUTTON_B:
@@ -18,19 +20,17 @@ int KeyOfButton(int button) {
     case SDL_CONTROLLER_BUTTON_START:
       return kPauseCode;
     case SDL_CONTROLLER_BUTTON_DPAD_UP:
-      return kUpCode;
+      return PadCode(number, PadDirection::kUp);
     case SDL_CONTROLLER_BUTTON_DPAD_DOWN:
-      return kDownCode;
+      return PadCode(number, PadDirection::kDown);
     case SDL_CONTROLLER_BUTTON_DPAD_LEFT:
-      return kLeftCode;
+      return PadCode(number, PadDirection::kLeft);
     case SDL_CONTROLLER_BUTTON_DPAD_RIGHT:
-      return kRightCode;
+      return PadCode(number, PadDirection::kRight);
     default:
       return 0;
   }
 }
-
-}  // namespace
 
 void SdlControllers::Take(const SDL_Event& event) {
   switch (event.type) {
@@ -41,10 +41,10 @@ void SdlControllers::Take(const SDL_Event& event) {
       PlugOut(event.cdevice.which);
       break;
     case SDL_CONTROLLERBUTTONDOWN:
-      keys_.Press(KeyOfButton(event.cbutton.button), KeyHolder::kButtons);
+      keys_.Press(KeyOfButton(event.cbutton), KeyHolder::kButtons);
       break;
     case SDL_CONTROLLERBUTTONUP:
-      keys_.Release(KeyOfButton(event.cbutton.button), KeyHolder::kButtons);
+      keys_.Release(KeyOfButton(event.cbutton), KeyHolder::kButtons);
       break;
     case SDL_CONTROLLERAXISMOTION:
       TakeLean(event.caxis.which);
@@ -58,7 +58,17 @@ void SdlControllers::PlugIn(int deviceIndex) {
   SdlPointer<SDL_GameController> device(SDL_GameControllerOpen(deviceIndex));
   if (!device) return;
   const SDL_JoystickID id = SDL_JoystickInstanceID(SDL_GameControllerGetJoystick(device.get()));
-  controllers_[id].device = std::move(device);
+  const int number = FreeNumber();
+  Controller& controller = controllers_[id];
+  controller.device = std::move(device);
+  controller.number = number;
+}
+
+int SdlControllers::FreeNumber() const {
+  int number = 0;
+  const auto isHeld = [&number](const auto& entry) { return entry.second.number == number; };
+  while (std::any_of(controllers_.begin(), controllers_.end(), isHeld)) ++number;
+  return number;
 }
 
 void SdlControllers::PlugOut(SDL_JoystickID id) {
@@ -72,13 +82,14 @@ void SdlControllers::TakeLean(SDL_JoystickID id) {
   if (found == controllers_.end()) return;
   Controller& controller = found->second;
   SDL_GameController* const device = controller.device.get();
-  const int arrow =
+  const auto direction =
       controller.stick.Lean(SDL_GameControllerGetAxis(device, SDL_CONTROLLER_AXIS_LEFTX),
                             SDL_GameControllerGetAxis(device, SDL_CONTROLLER_AXIS_LEFTY));
-  if (arrow == controller.arrow) return;
-  keys_.Release(controller.arrow, KeyHolder::kStick);
-  keys_.Press(arrow, KeyHolder::kStick);
-  controller.arrow = arrow;
+  const int code = direction ? PadCode(controller.number, *direction) : 0;
+  if (code == controller.code) return;
+  keys_.Release(controller.code, KeyHolder::kStick);
+  keys_.Press(code, KeyHolder::kStick);
+  controller.code = code;
 }
 
 }  // namespace coilrun

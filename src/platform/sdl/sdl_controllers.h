@@ -8,8 +8,8 @@
 
 namespace coilrun {
 
-/// Game controllers, plugged in and out at any time, as keys: stick and pad are the arrows, A is
-/// Enter, B is Escape, Start is Pause.
+/// Game controllers, plugged in and out at any time, as keys: stick and pad have codes of their own
+/// for each controller, A is Enter, B is Escape, Start is Pause.
 class SdlControllers {
  public:
   explicit SdlControllers(KeyQueue& keys) : keys_(keys) {}
@@ -20,11 +20,15 @@ class SdlControllers {
   struct Controller {
     SdlPointer<SDL_GameController> device;
     Stick stick;
-    int arrow = 0;
+    int number = 0;  ///< the lowest that was free, from 0
+    int code = 0;    ///< that the stick holds; 0 for none
   };
 
   void PlugIn(int deviceIndex);
   void PlugOut(SDL_JoystickID id);
+  int FreeNumber() const;
+  /// The key that a button stands for; 0 for none.
+  int KeyOfButton(const SDL_ControllerButtonEvent& event) const;
   void TakeLean(SDL_JoystickID id);
 
   KeyQueue& keys_;

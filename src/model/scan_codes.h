@@ -2,15 +2,17 @@
 
 namespace coilrun {
 
-/// Scan codes of the keys with a meaning of their own.
+/// Scan codes of the keys with a meaning of their own, and of controllers.
 enum Key : int {
   kKeyEscape = 1,
   kKeyFirstCharacter = 2,
   kKeyBackspace = 14,
+  kKeyTab = 15,
   kKeyEnter = 28,
   kKeyLeftShift = 42,
   kKeyRightShift = 54,
   kKeyLastCharacter = 57,
+  kKeySpace = 57,
   kKeyF1 = 59,
   kKeyF2 = 60,
   kKeyF3 = 61,
@@ -20,6 +22,10 @@ enum Key : int {
   kKeyLeft = 203,
   kKeyRight = 205,
   kKeyDown = 208,
+  kLastSteeringKey = 239,
+  kFirstPadCode = 240,  ///< up, down, left, right of the first controller, then of the second ...
 };
+
+inline constexpr int kPadDirections = 4;
 
 }  // namespace coilrun

@@ -1,0 +1,134 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "model/saturating.h"
+#include "model/table.h"
+#include "model/words.h"
+
+namespace coilrun {
+
+inline constexpr int kMaxPeople = 4;
+
+/// How presses between two steps count: the last one, or one after the other.
+enum class TurnsMode : std::uint8_t { kLast, kQueue };
+/// How heads and tails are drawn between two steps.
+enum class MotionMode : std::uint8_t { kSteps, kSmooth };
+enum class EffectsMode : std::uint8_t { kOff, kCalm, kFull };
+/// Who steers a computer snake.
+enum class RivalKind : std::uint8_t { kClassic, kClever, kMaster };
+/// The menu pages beside main page, options and high scores.
+enum class MorePage : std::uint8_t { kNone, kMore, kMatch, kControls, kReplays };
+enum class MatchMode : std::uint8_t { kCampaign, kDeathmatch, kHunting };
+
+/// The kinds that the computer snakes are dealt in turn; never empty.
+struct RivalList {
+  std::vector<RivalKind> kinds{RivalKind::kClassic};
+
+  bool operator==(const RivalList&) const = default;
+};
+
+/// What is played next from the match page.
+struct MatchChoice {
+  MatchMode Mode = MatchMode::kCampaign;
+  std::string Level;     ///< the file's name in the lvl folder
+  Int16 Computers = -1;  ///< -1: as many as the level asks for
+  Int16 Limit = 0;       ///< frags or length
+};
+
+/// The scan codes that steer one person's snake, up to four a direction.
+struct SteeringKeys {
+  static constexpr int kMostCodes = 4;
+
+  std::vector<int> Up;
+  std::vector<int> Down;
+  std::vector<int> Left;
+  std::vector<int> Right;
+
+  bool operator==(const SteeringKeys&) const = default;
+};
+
+/// The settings of the sections [More] and [Keys], each at its built-in value, and their pages.
+struct MoreState {
+  MorePage Page = MorePage::kNone;
+  Int16 Cursor;  ///< from 1; 0 where there is no entry
+  TurnsMode Turns = TurnsMode::kLast;
+  MotionMode Motion = MotionMode::kSteps;
+  EffectsMode Effects = EffectsMode::kOff;
+  bool Confirm = false;
+  bool AnyKey = false;
+  bool AskName = false;
+  bool Attract = false;
+  RivalList Rivals;
+  Int16 Players = 1;
+  bool Record = false;
+  Int16 KeepReplays = 50;
+  MatchChoice Match;
+
+  bool isClassic = false;  ///< the two sections are neither read nor written in this run
+};
+
+/// Presses that wait behind `NextDir`, oldest first.
+struct TurnQueue {
+  static constexpr std::size_t kMost = 2;
+
+  std::array<Dir, kMost> turns{};
+  std::size_t count = 0;
+};
+
+/// One of those who sit at this machine.
+struct Person {
+  TurnQueue queue;
+  bool Out = false;  ///< without lives until the next level
+};
+
+/// The words as settings, scripts and traces write them.
+std::string_view Word(TurnsMode mode);
+std::string_view Word(MotionMode mode);
+std::string_view Word(EffectsMode mode);
+std::string_view Word(RivalKind kind);
+std::string_view Word(MorePage page);
+std::string_view Word(MatchMode mode);
+template <>
+std::optional<TurnsMode> FromWord<TurnsMode>(std::string_view word);
+template <>
+std::optional<MotionMode> FromWord<MotionMode>(std::string_view word);
+template <>
+std::optional<EffectsMode> FromWord<EffectsMode>(std::string_view word);
+template <>
+std::optional<RivalKind> FromWord<RivalKind>(std::string_view word);
+template <>
+std::optional<MorePage> FromWord<MorePage>(std::string_view word);
+template <>
+std::optional<MatchMode> FromWord<MatchMode>(std::string_view word);
+
+/// "classic,master"; nothing for a list with an unknown or an empty word.
+std::string RivalText(const RivalList& rivals);
+std::optional<RivalList> RivalsFromText(std::string_view text);
+
+/// Scan codes with blanks between; nothing when there are more than four or one cannot steer. An
+/// empty text is an empty list.
+std::optional<std::vector<int>> KeyCodesFromText(std::string_view text);
+std::string KeyCodesText(const std::vector<int>& codes);
+/// Whether a key may be bound to a direction: within 1 to 239 and without a use of its own.
+bool CanSteer(int code);
+
+/// The keys of person 1 to 4 without any setting.
+SteeringKeys BuiltInKeys(int person);
+
+/// The four lists of a person's keys by the direction that they steer to.
+inline const std::vector<int>& KeysOf(const SteeringKeys& keys, Dir dir) {
+  if (dir == Dir::kForw) return keys.Up;
+  if (dir == Dir::kBack) return keys.Down;
+  return dir == Dir::kLeft ? keys.Left : keys.Right;
+}
+inline std::vector<int>& KeysOf(SteeringKeys& keys, Dir dir) {
+  if (dir == Dir::kForw) return keys.Up;
+  if (dir == Dir::kBack) return keys.Down;
+  return dir == Dir::kLeft ? keys.Left : keys.Right;
+}
+
+}  // namespace coilrun

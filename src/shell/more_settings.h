@@ -1,0 +1,18 @@
+#pragma once
+
+#include "model/state.h"
+#include "ports/settings_store.h"
+
+namespace coilrun {
+
+/// Reads the sections [More] and [Keys]. A value that cannot be used counts as the built-in one. A
+/// classic run keeps all at their built-in values.
+void LoadMoreSettings(State& state, const SettingsStore& store);
+/// Stores what differs from `before`, so that only the player's own changes go into his store.
+void SaveMoreSettings(const State& state, const MoreState& before,
+                      const Table<SteeringKeys, kMaxPeople>& keysBefore, SettingsStore& store);
+
+/// What the shipped settings say of a person's keys, whatever the player has stored.
+SteeringKeys ShippedKeys(int person, const SettingsStore& store);
+
+}  // namespace coilrun
