@@ -14,7 +14,8 @@ namespace {
 TEST(ShippedLevels, LoadAndLeadToTheEnd) {
   ContentStage stage;
   State& state = stage.state;
-  for (const std::string name : {"ui_crate.bmp", "ui_steel.bmp", "ui_flame", "ui_wheel"}) {
+  for (const auto& entry : std::filesystem::directory_iterator(COILRUN_SOURCE_DIR "/assets/gfx")) {
+    const std::string name = entry.path().stem().string() + (entry.is_directory() ? "" : ".bmp");
     stage.files.Put(".\\gfx\\" + name, "");
     stage.host.pictures.insert(name);
     for (int i = 1; i <= 45; ++i) {

@@ -16,7 +16,7 @@ using ::testing::HasSubstr;
 using ::testing::StartsWith;
 
 const std::string kLevel = COILRUN_BUILD_DIR "/tools/coillevel";
-const std::string kShipped = COILRUN_BUILD_DIR "/game/lvl/lvl3.dat";
+const std::string kShipped = COILRUN_BUILD_DIR "/game/lvl/lvl9.dat";
 
 /// 22 empty rows, and these lines below.
 std::string LevelWith(const std::string& keys) {
@@ -180,7 +180,7 @@ TEST(Coillevel, DumpTellsWhatTheLoaderMade) {
   const auto outcome = shop.Run(kLevel + " dump " + kShipped);
   ASSERT_EQ(outcome.code, 0) << outcome.errors;
   const auto level = nlohmann::json::parse(outcome.output);
-  EXPECT_EQ(level.at("nextLvl"), ".\\lvl\\lvl4.dat");
+  EXPECT_EQ(level.at("nextLvl"), ".\\lvl\\lvl10.dat");
   EXPECT_EQ(level.at("UserItemsUsed"), true);
   EXPECT_EQ(level.at("Yellow").size(), level.at("numYellow"));
   for (const char* const key : {"Walls", "SpawnPoints", "UserItems"}) {
