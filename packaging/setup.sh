@@ -1,7 +1,7 @@
 # Shared by ./play and ./test: the Debian packages that the project needs, and how to install and build.
 
 build_packages="g++ cmake ninja-build pkg-config libsdl2-dev libsdl2-mixer-dev libsdl2-ttf-dev libx11-dev libarchive-dev libssl-dev
-  libpng-dev libsimpleini-dev nlohmann-json3-dev fonts-liberation2 fonts-comic-neue"
+  libb2-dev zlib1g-dev libpng-dev libsimpleini-dev nlohmann-json3-dev fonts-liberation2 fonts-comic-neue"
 test_packages="libgtest-dev libgmock-dev libbenchmark-dev clang-format xvfb xauth xdotool openbox x11-apps imagemagick unar
   libarchive-tools python3 python3-numpy python3-pil desktop-file-utils vorbis-tools"
 
@@ -28,12 +28,16 @@ install_packages() {
   }
 }
 
-# build PRESET TESTS TARGET...: configures, with or without the tests (ON or OFF), and builds.
+# build PRESET TESTS TARGET...: configures and builds, with the tests and warnings as errors (ON) or without (OFF). What is
+# built to be played must build with any compiler; a folder that the tests built stays as strict, or all would be built anew.
 build() {
   preset=$1
   tests=$2
   shift 2
-  cmake --preset "$preset" -DBUILD_TESTING="$tests" >/dev/null
+  strict=""
+  [ "$tests" = OFF ] || strict="-DCOILRUN_WERROR=ON"
+  # shellcheck disable=SC2086
+  cmake --preset "$preset" -DBUILD_TESTING="$tests" $strict >/dev/null
   # shellcheck disable=SC2086
   cmake --build --preset "$preset" --target "$@"
 }

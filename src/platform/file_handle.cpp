@@ -23,7 +23,7 @@ FileHandle::FileHandle(const FileHandle& folder, const std::filesystem::path& na
     // NOLINTNEXTLINE(cppcoreguidelines-pro-type-vararg): the system call has no other form.
     : descriptor_(openat(folder.descriptor_, name.c_str(), flags | O_CLOEXEC, kPermissions)) {}
 
-bool FileHandle::ReadAll(Bytes& contents, std::size_t limit) const {
+bool FileHandle::ReadAll(Bytes& contents, std::uint64_t limit) const {
   struct stat status {};
   if (fstat(descriptor_, &status) != 0 || std::cmp_greater(status.st_size, limit)) return false;
   contents.reserve(static_cast<std::size_t>(status.st_size) + kChunk);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <filesystem>
 #include <span>
 #include <utility>
@@ -31,7 +32,7 @@ class FileHandle {
   bool IsOpen() const { return descriptor_ >= 0; }
   int Descriptor() const { return descriptor_; }
   /// Reads up to the end of the file; false on an error or when there are more than `limit` bytes.
-  bool ReadAll(Bytes& contents, std::size_t limit) const;
+  bool ReadAll(Bytes& contents, std::uint64_t limit) const;
   bool WriteAll(std::span<const std::byte> contents) const;
   /// False when the system reports a late write error.
   bool Close();

@@ -18,20 +18,21 @@ class ByteReader {
   std::uint64_t U64() { return Number(8); }
   std::int32_t I32() { return static_cast<std::int32_t>(U32()); }
 
-  /// The next `count` bytes; empty, and the reader failed, when fewer are left.
-  std::span<const std::uint8_t> Take(std::size_t count) {
+  /// The next `count` bytes; empty, and the reader failed, when fewer are left. Counts and
+  /// positions are 64 bits wide on every machine, as files hold them.
+  std::span<const std::uint8_t> Take(std::uint64_t count) {
     if (count > Left()) return Fail();
-    const auto taken = bytes_.subspan(at_, count);
-    at_ += count;
+    const auto taken = bytes_.subspan(at_, static_cast<std::size_t>(count));
+    at_ += taken.size();
     return taken;
   }
-  void Skip(std::size_t count) { Take(count); }
+  void Skip(std::uint64_t count) { Take(count); }
   /// Goes to a position counted from the start of the span.
-  void Seek(std::size_t position) {
+  void Seek(std::uint64_t position) {
     if (position > bytes_.size()) {
       Fail();
     } else {
-      at_ = position;
+      at_ = static_cast<std::size_t>(position);
     }
   }
 

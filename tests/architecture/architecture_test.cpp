@@ -43,7 +43,7 @@ struct Reserved {
 };
 const std::vector<Reserved> kReserved = {
     {{"src/platform/sdl/"}, {"<SDL", "\"SDL", "SDL_"}},
-    {{"src/platform/"}, {"<archive", "<SimpleIni", "<openssl/"}},
+    {{"src/platform/"}, {"<archive", "<SimpleIni", "<openssl/", "<blake2.h>", "<zlib.h>"}},
     {{"src/platform/", "tools/"}, {"<png.h>"}},
     {{"src/script/", "tools/"}, {"<nlohmann/"}},
     {{"src/platform/"}, {"sleep_for", "sleep_until", "usleep", "nanosleep", "<thread>"}},

@@ -27,20 +27,20 @@ Bytes CipherFields(const Rar5Keys& keys, bool checkValue) {
   fields.Add(kIv);
   if (!checkValue) return fields.Written();
   fields.Add(keys.check);
-  fields.Add(CheckValueSum(keys.check));
+  fields.Add(CheckValueSum(keys.check).value());
   return fields.Written();
 }
 
 void AddEntry(ByteWriter& archive, const MadeEntry& entry, const Rar5Keys* keys, bool checkValue) {
   const Bytes contents = ToBytes(entry.contents);
   Bytes data = entry.packed.value_or(contents);
-  if (keys) data = AesEncrypt(keys->cipher, kIv, data);
+  if (keys) data = AesEncrypt(keys->cipher, kIv, data).value();
   ByteWriter extra;
   if (keys) AddRecord(extra, rar5::kCipher, CipherFields(*keys, checkValue));
   if (entry.blake) {
     ByteWriter hash;
     hash.Vint(0);
-    hash.Add(keys ? HmacSha256(keys->sums, Blake2sp(contents)) : Blake2sp(contents));
+    hash.Add(keys ? HmacSha256(keys->sums, *entry.blake).value() : *entry.blake);
     AddRecord(extra, rar5::kHash, hash.Written());
   }
   if (entry.link) AddRecord(extra, rar5::kLink, {1, 0, 2, '.', '.'});
@@ -52,7 +52,8 @@ void AddEntry(ByteWriter& archive, const MadeEntry& entry, const Rar5Keys* keys,
   fields.Vint((entry.blake ? 0 : rar5::kHasCrc) | (entry.folder ? rar5::kFolder : 0));
   fields.Vint(entry.claimedSize.value_or(contents.size()));
   fields.Vint(0);
-  if (!entry.blake) fields.U32(keys ? TweakedCrc(Crc32(contents), *keys) : Crc32(contents));
+  const std::uint32_t crc = Crc32(contents);
+  if (!entry.blake) fields.U32(keys ? TweakedCrc(crc, *keys).value() : crc);
   fields.Vint((entry.packed ? 3U << 7 : 0U) | (entry.solid ? 0x40U : 0U));
   fields.Vint(0);
   fields.Vint(entry.name.size());
@@ -65,7 +66,7 @@ void AddEntry(ByteWriter& archive, const MadeEntry& entry, const Rar5Keys* keys,
 }  // namespace
 
 Bytes MadeArchive::Write() const {
-  const Rar5Keys keys = DeriveRar5Keys(kPassword, kSalt, kExponent);
+  const Rar5Keys keys = DeriveRar5Keys(kPassword, kSalt, kExponent).value();
   ByteWriter archive;
   archive.Add(rar5::kSignature);
   rar5::AddHeader(archive, {rar5::kMain, 0, 0});

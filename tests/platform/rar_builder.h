@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/rar/rar_entry.h"
 #include "support.h"
 
 namespace coilrun {
@@ -21,7 +22,8 @@ inline Bytes CommittedArchive(const std::string& name) {
   return ToBytes(Contents(std::filesystem::path(kArchives) / (name + ".rar")));
 }
 
-/// One entry of an archive to be made. `packed` is set for compressed contents.
+/// One entry of an archive to be made. `packed` is set for compressed contents; `blake` takes the
+/// place of the CRC.
 struct MadeEntry {
   std::string name{};
   std::string contents{};
@@ -29,7 +31,7 @@ struct MadeEntry {
   bool folder = false;
   bool solid = false;
   bool link = false;
-  bool blake = false;
+  std::optional<Digest256> blake{};
   std::optional<std::uint64_t> claimedSize{};
 };
 

@@ -1,5 +1,7 @@
 #include "platform/rar/rar_reader.h"
 
+#include <charconv>
+
 #include <gmock/gmock.h>
 
 #include "platform/rar/entry_name.h"
@@ -129,15 +131,32 @@ TEST(RarReader, TellsWhichSolidEntriesAreLost) {
   EXPECT_EQ(TextOf(reader.Read(2)), "(depends on an earlier entry that cannot be read)");
 }
 
+Digest256 DigestOf(std::string_view hex) {
+  Digest256 digest{};
+  for (std::size_t i = 0; i < digest.size(); ++i)
+    std::from_chars(&hex[2 * i], &hex[2 * i] + 2, digest[i], 16);
+  return digest;
+}
+
 TEST(RarReader, ChecksTheOtherSumOfGenerationFive) {
-  MadeArchive archive;
-  archive.entries = {{.name = "a", .contents = std::string(1500, 'a'), .blake = true}};
-  for (const bool locked : {false, true}) {
-    archive.locked = locked;
-    Bytes bytes = archive.Write();
-    EXPECT_TRUE(RarReader(bytes, kPassword).Read(0).Ok());
-    bytes[bytes.size() - 600] ^= 1;
-    EXPECT_EQ(RarReader(bytes, kPassword).Read(0).problem, "its contents are damaged");
+  // The sums of so many letters "a", computed by another program.
+  const std::pair<std::size_t, const char*> cases[] = {
+      {0, "dd0e891776933f43c7d032b08a917e25741f8aa9a12c12e1cac8801500f2ca4f"},
+      {512, "e5c78b5cd735530b80a1377388c29164a54192ed3b1a745bce45488d1188e9bc"},
+      {513, "985dfa163dbd74d7a74a42f57144bb8dd99a0395c1953404a73c585c567b1037"},
+      {1500, "98ada8fceb03083697321062537b6d71be6fbee4dcf85c95450e88a5c2bc8b64"},
+  };
+  for (const auto& [size, sum] : cases) {
+    for (const bool locked : {false, true}) {
+      MadeArchive archive{.entries = {{.name = "a", .contents = std::string(size, 'a')}},
+                          .locked = locked};
+      MadeEntry& entry = archive.entries.front();
+      entry.blake = DigestOf(sum);
+      EXPECT_EQ(TextOf(RarReader(archive.Write(), kPassword).Read(0)), entry.contents);
+      entry.blake->back() ^= 1;
+      const RarContents damaged = RarReader(archive.Write(), kPassword).Read(0);
+      EXPECT_EQ(damaged.problem, "its contents are damaged") << size;
+    }
   }
 }
 

@@ -22,7 +22,7 @@ TEST(RarWriter, HidesContentsAlikeButNoTwoEntriesWithTheSameVector) {
                                     {.name = "gfx/same.bmp", .contents = Bytes(1000, 'a')},
                                     {.name = "gfx/empty.txt", .contents = {}},
                                     {.name = "b.bmp", .contents = {1, 2, 3}}};
-  const Bytes archive = WriteRar(sources, "sn80463");
+  const Bytes archive = WriteRar(sources, "sn80463").value();
   EXPECT_EQ(WriteRar(sources, "sn80463"), archive);
   EXPECT_THAT(Text(archive), Not(HasSubstr("aaaa")));
   EXPECT_THAT(Text(archive), HasSubstr("gfx/a.bmp"));
@@ -39,7 +39,7 @@ TEST(RarWriter, HidesContentsAlikeButNoTwoEntriesWithTheSameVector) {
   EXPECT_THAT(salts, SizeIs(1)) << "each costs the reader a new key";
 
   sources[1].contents[0] ^= 1;
-  const RarReader changed(WriteRar(sources, "sn80463"), "sn80463");
+  const RarReader changed(WriteRar(sources, "sn80463").value(), "sn80463");
   EXPECT_NE(changed.Entries()[1].packed.encryption5->recipe.salt, *salts.begin());
 }
 

@@ -152,7 +152,7 @@ TEST_F(ContentTest, AHostilePackHarmsNothingAndIsNamed) {
       {"boa/head_left.bmp", false, 0, BytesOf("evil")},
       {"bad/head_left.bmp", false, 0, BytesOf("BM and no more")},
       {"bad/model.ini", false, 0, BytesOf("NAME=Bad\r\nEDGES=0\r\n")}};
-  WriteFile(Data() / "models" / "bad.smp", WriteRar(entries, ""));
+  WriteFile(Data() / "models" / "bad.smp", WriteRar(entries, "").value());
   WriteFile(Data() / "models" / "broken.smp", BytesOf("no archive"));
   shipped_ = FilesIn(Data());
   const std::set<std::string> before = FilesIn(folder_.Home());
@@ -222,7 +222,7 @@ TEST_F(ContentTest, ALevelBringsUserItemsThatReloadWithTheirOwnKey) {
   for (int n = 1; n <= 45; ++n) {
     entries.push_back({"moving/" + std::to_string(n) + ".bmp", false, 0, StripedBitmap()});
   }
-  WriteFile(Data() / "own.snr", WriteRar(entries, "sn80463"));
+  WriteFile(Data() / "own.snr", WriteRar(entries, "sn80463").value());
   WriteFile(Data() / "lvl" / "lvl9.dat",
             BytesOf("\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n   a   b .\r\nRequires= own.snr\r\n"
                     "let:a wall\r\nset:a still.bmp\r\nlet:b ani_wall_no_tnt\r\nset:b moving\r\n"

@@ -30,13 +30,14 @@ inline void RepairHeaders5(Bytes& bytes) {
     const std::uint64_t size = Vint(reader);
     const std::size_t body = reader.Position();
     if (!reader.Ok() || size > bytes.size() - body) return;
-    PutNumber(bytes, at, Crc32(std::span(bytes).subspan(at + 4, body + size - at - 4)), 4);
+    const std::size_t next = body + static_cast<std::size_t>(size);
+    PutNumber(bytes, at, Crc32(std::span(bytes).subspan(at + 4, next - at - 4)), 4);
     Vint(reader);
     const std::uint64_t flags = Vint(reader);
     if ((flags & 1) != 0) Vint(reader);
     const std::uint64_t data = (flags & 2) != 0 ? Vint(reader) : 0;
-    if (!reader.Ok() || data > bytes.size() - body - size) return;
-    at = body + size + data;
+    if (!reader.Ok() || data > bytes.size() - next) return;
+    at = next + static_cast<std::size_t>(data);
   }
 }
 
@@ -51,7 +52,7 @@ inline void RepairHeaders4(Bytes& bytes) {
     if (size < 7 || size > bytes.size() - at) return;
     PutNumber(bytes, at, Crc32(std::span(bytes).subspan(at + 2, size - 2)), 2);
     if (data > bytes.size() - at - size) return;
-    at += size + data;
+    at += size + static_cast<std::size_t>(data);
   }
 }
 

@@ -104,6 +104,29 @@ TEST_F(CoilpackTest, NamesWhatIsWrong) {
   EXPECT_EQ(Pack("test --json missing.rar").output, "{\"end\":\"cannot be read\"}\n");
 }
 
+TEST_F(CoilpackTest, GivesNothingWhereTheSystemCannotDecrypt) {
+  shop_.Put("none.cnf",
+            "openssl_conf = all\n[all]\nproviders = list\n[list]\nnull = empty\n"
+            "[empty]\nactivate = 1\n");
+  const std::string pack = "OPENSSL_CONF=none.cnf " + kPack;
+  const std::string fails = "the encryption library of this system fails\n";
+  const auto created = shop_.Run(pack + " create -p sn80463 locked.rar in");
+  EXPECT_EQ(created.code, 1);
+  EXPECT_EQ(created.errors, "locked.rar: " + fails);
+  EXPECT_EQ(shop_.Contents("locked.rar"), "(none)");
+
+  for (const std::string kind : {"old", "new"}) {
+    const std::string archives = COILRUN_SOURCE_DIR "/fuzz/corpus/rar/" + kind;
+    const auto test = shop_.Run(pack + " test -p sn80463 '" + archives + "_contents.rar'");
+    EXPECT_EQ(test.code, 1);
+    EXPECT_EQ(test.output, "gfx: ok\n");
+    EXPECT_EQ(test.errors, "gfx/stored: " + fails + "packed: " + fails);
+    const auto list = shop_.Run(pack + " list -p sn80463 '" + archives + "_headers.rar'");
+    EXPECT_EQ(list.code, 1);
+    EXPECT_THAT(list.errors, HasSubstr(fails));
+  }
+}
+
 TEST_F(CoilpackTest, RefusesWrongUse) {
   for (const std::string arguments :
        {"", "pack a.rar in", "create a.rar", "create a.rar in more", "list", "list a.rar more",

@@ -6,6 +6,7 @@
 #include <iomanip>
 #include <iostream>
 #include <sstream>
+#include <utility>
 
 #include <nlohmann/json.hpp>
 
@@ -49,7 +50,8 @@ int FinishWalk(const PackOptions& options, const RarReader& reader, int code) {
 
 std::string TimeText(const std::optional<std::int64_t>& mtime) {
   if (!mtime) return "-";
-  const std::time_t seconds = *mtime;
+  if (!std::in_range<std::time_t>(*mtime)) return "-";
+  const auto seconds = static_cast<std::time_t>(*mtime);
   std::tm parts{};
   if (gmtime_r(&seconds, &parts) == nullptr) return "-";
   std::ostringstream text;
@@ -74,7 +76,8 @@ Json Describe(const RarEntry& entry, const RarContents& contents) {
                line["name"].get_ref<std::string&>().end(), '\\', '/');
   if (entry.mtime) line["mtime"] = *entry.mtime;
   line["result"] = contents.Ok() ? "ok" : contents.problem;
-  if (contents.Ok() && !entry.folder) line["sha256"] = HexOf(Sha256(contents.bytes));
+  const auto digest = contents.Ok() && !entry.folder ? Sha256(contents.bytes) : std::nullopt;
+  if (digest) line["sha256"] = HexOf(*digest);
   return line;
 }
 
@@ -111,7 +114,9 @@ int CreateArchive(const PackOptions& options) {
     std::cerr << Printable(folder.problem) << '\n';
     return 1;
   }
-  if (!WriteWholeFile(options.archive, WriteRar(folder.sources, options.password)))
+  const auto archive = WriteRar(folder.sources, options.password);
+  if (!archive) return Complain(options.archive, kCryptoFails);
+  if (!WriteWholeFile(options.archive, *archive))
     return Complain(options.archive, "cannot be written");
   return 0;
 }

@@ -46,7 +46,9 @@ FileHandle OpenPath(const FileHandle& root, std::span<const std::string> parts) 
 }
 
 void SetTime(const FileHandle& file, std::int64_t mtime) {
-  const std::array<timespec, 2> times = {timespec{mtime, 0}, timespec{mtime, 0}};
+  if (!std::in_range<std::time_t>(mtime)) return;
+  const timespec time{static_cast<std::time_t>(mtime), 0};
+  const std::array<timespec, 2> times = {time, time};
   ::futimens(file.Descriptor(), times.data());
 }
 

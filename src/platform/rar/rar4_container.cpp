@@ -55,17 +55,19 @@ RarHeaderResult ReadEncryptedHeader(std::span<const std::uint8_t> archive, std::
   const auto salt = TakeArray<8>(reader);
   const auto firstBlock = reader.Take(kAesBlock);
   if (!reader.Ok()) return {std::nullopt, kCutOff};
-  const auto keys = keyRing.Keys4(salt);
-  if (!keys) return {std::nullopt, kTooManyKeys};
-  const Bytes first = AesDecrypt(keys->cipher, keys->iv, firstBlock);
-  ByteReader peek(first);
+  const auto [keys, problem] = keyRing.Keys4(salt);
+  if (!keys) return {std::nullopt, problem};
+  const auto first = AesDecrypt(keys->cipher, keys->iv, firstBlock);
+  if (!first) return {std::nullopt, kCryptoFails};
+  ByteReader peek(*first);
   const BlockStart start = ReadBlockStart(peek);
   reader.Seek(salt.size());
   const auto cipherText = reader.Take(RoundedToBlocks(start.size));
   if (!reader.Ok()) return {std::nullopt, kDamagedOrWrongPassword};
-  Bytes header = AesDecrypt(keys->cipher, keys->iv, cipherText);
-  header.resize(start.size);
-  return {RarHeader{std::move(header), at + reader.Position()}, {}};
+  auto header = AesDecrypt(keys->cipher, keys->iv, cipherText);
+  if (!header) return {std::nullopt, kCryptoFails};
+  header->resize(start.size);
+  return {RarHeader{std::move(*header), at + reader.Position()}, {}};
 }
 
 /// Seconds since 1970 of a date in the form of old file systems, which know only local time.
@@ -206,16 +208,14 @@ class Walk {
 
   void Add(FileHeader file) {
     RarEntry& entry = file.entry;
-    entry.packed.offset = at_;
-    entry.packed.size = file.dataSize;
-    if (file.dataSize > archive_.size() - at_) entry.problem = "cut off";
+    PlaceContents(entry, at_, file.dataSize, archive_.size() - at_);
     if (listing_.entries.size() == kMaxEntries) return Stop("the archive has too many entries");
     listing_.entries.push_back(std::move(entry));
   }
 
   void Pass(std::uint64_t dataSize) {
     if (dataSize > archive_.size() - at_) return Stop(kCutOff);
-    at_ += dataSize;
+    at_ += static_cast<std::size_t>(dataSize);
   }
 
   std::span<const std::uint8_t> archive_;

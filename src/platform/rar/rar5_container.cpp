@@ -30,7 +30,7 @@ std::uint64_t Vint(ByteReader& reader) {
 struct BlockStart {
   std::uint64_t type = 0;
   std::uint64_t flags = 0;
-  std::size_t extraSize = 0;
+  std::uint64_t extraSize = 0;
   std::uint64_t dataSize = 0;
 };
 
@@ -73,18 +73,20 @@ RarHeaderResult ReadEncryptedHeader(std::span<const std::uint8_t> archive, std::
   reader.Seek(at);
   const auto iv = TakeArray<kAesBlock>(reader);
   const std::size_t start = reader.Position();
-  const Bytes first = AesDecrypt(keys.cipher, iv, reader.Take(kAesBlock));
+  const auto first = AesDecrypt(keys.cipher, iv, reader.Take(kAesBlock));
   if (!reader.Ok()) return {std::nullopt, kCutOff};
-  ByteReader peek(first);
+  if (!first) return {std::nullopt, kCryptoFails};
+  ByteReader peek(*first);
   const std::uint32_t crc = peek.U32();
   const std::uint64_t body = Vint(peek);
-  const std::uint64_t size = peek.Position() + body;
   if (!peek.Ok() || body > kMaxHeaderSize) return {std::nullopt, kDamagedOrWrongPassword};
+  const std::size_t size = peek.Position() + static_cast<std::size_t>(body);
   reader.Seek(start);
   const auto cipherText = reader.Take(RoundedToBlocks(size));
   if (!reader.Ok()) return {std::nullopt, kCutOff};
-  const Bytes header = AesDecrypt(keys.cipher, iv, cipherText);
-  return Proven(std::span(header).subspan(4, size - 4), crc, reader.Position(),
+  const auto header = AesDecrypt(keys.cipher, iv, cipherText);
+  if (!header) return {std::nullopt, kCryptoFails};
+  return Proven(std::span(*header).subspan(4, size - 4), crc, reader.Position(),
                 kDamagedOrWrongPassword);
 }
 
@@ -198,16 +200,14 @@ class Walk {
     if (start.type == rar5::kFile) AddFile(reader, start, result.header->bytes);
     if (done_) return;
     if (start.dataSize > archive_.size() - at_) return Stop(kCutOff);
-    at_ += start.dataSize;
+    at_ += static_cast<std::size_t>(start.dataSize);
   }
 
   void AddFile(ByteReader& reader, const BlockStart& start, std::span<const std::uint8_t> header) {
     RarEntry entry = ReadFile(reader, start);
     if (!reader.Ok() || start.extraSize > reader.Left()) return Stop(kDamaged);
-    ReadExtraRecords(header.last(start.extraSize), entry);
-    if (start.dataSize > archive_.size() - at_) entry.problem = "cut off";
-    entry.packed.offset = at_;
-    entry.packed.size = start.dataSize;
+    ReadExtraRecords(header.last(static_cast<std::size_t>(start.extraSize)), entry);
+    PlaceContents(entry, at_, start.dataSize, archive_.size() - at_);
     if (listing_.entries.size() == kMaxEntries) return Stop("the archive has too many entries");
     listing_.entries.push_back(std::move(entry));
   }
@@ -220,8 +220,9 @@ class Walk {
     if (!reader.Ok() || headerKeys_) return Stop(kDamaged);
     if (version != 0) return Stop("the archive is encrypted in an unknown way");
     if (!keys_.HasPassword()) return Stop("the archive is encrypted and needs a password");
-    headerKeys_ = keys_.Keys5(salt, exponent);
-    if (!headerKeys_) return Stop(kTooManyKeys);
+    const auto [keys, problem] = keys_.Keys5(salt, exponent);
+    if (!keys) return Stop(problem);
+    headerKeys_ = keys;
     if ((flags & rar5::kHasCheck) == 0) return;
     const auto check = ReadCheck(reader);
     if (check && *check != headerKeys_->check) Stop("wrong password");

@@ -29,8 +29,12 @@ struct RarHeaderResult {
 inline constexpr const char* kCutOff = "the archive is cut off";
 inline constexpr const char* kDamaged = "a header is damaged";
 inline constexpr const char* kDamagedOrWrongPassword = "wrong password or a damaged header";
-inline constexpr const char* kTooManyKeys =
-    "the archive asks for too much work to check its password";
+/// Notes where in the archive the packed bytes of an entry lie, of which `left` are there.
+inline void PlaceContents(RarEntry& entry, std::size_t at, std::uint64_t size, std::size_t left) {
+  entry.packed.offset = at;
+  entry.packed.size = static_cast<std::size_t>(std::min<std::uint64_t>(size, left));
+  if (size > left) entry.problem = "cut off";
+}
 
 template <std::size_t kCount>
 std::array<std::uint8_t, kCount> TakeArray(ByteReader& reader) {

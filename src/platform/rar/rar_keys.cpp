@@ -15,11 +15,14 @@ constexpr std::uint32_t kRounds4 = 0x40000;
 /// What a key of generation 4 costs in rounds of generation 5.
 constexpr std::int64_t kWorkOfKey4 = std::int64_t{1} << 14;
 
-Digest256 Stretch(const std::string& password, const RarSalt& salt, int rounds) {
+constexpr const char* kTooMuchWork = "the archive asks for too much work to check its password";
+
+std::optional<Digest256> Stretch(const std::string& password, const RarSalt& salt, int rounds) {
   Digest256 key{};
-  PKCS5_PBKDF2_HMAC(password.data(), static_cast<int>(password.size()), salt.data(),
-                    static_cast<int>(salt.size()), rounds, EVP_sha256(),
-                    static_cast<int>(key.size()), key.data());
+  if (PKCS5_PBKDF2_HMAC(password.data(), static_cast<int>(password.size()), salt.data(),
+                        static_cast<int>(salt.size()), rounds, EVP_sha256(),
+                        static_cast<int>(key.size()), key.data()) != 1)
+    return std::nullopt;
   return key;
 }
 
@@ -43,85 +46,110 @@ Bytes Utf16Of(const std::string& utf8) {
   return result;
 }
 
-using DigestContext = std::unique_ptr<EVP_MD_CTX, decltype(&EVP_MD_CTX_free)>;
 using Sha1Digest = std::array<std::uint8_t, 20>;
 
-DigestContext NewDigestContext() {
-  return {EVP_MD_CTX_new(), &EVP_MD_CTX_free};
-}
+/// A running SHA-1. A failure of the library shows at the end.
+class Sha1 {
+ public:
+  Sha1() : ok_(context_ && EVP_DigestInit_ex(context_.get(), EVP_sha1(), nullptr) == 1) {}
 
-Sha1Digest Finish(const DigestContext& context) {
-  Sha1Digest digest{};
-  EVP_DigestFinal_ex(context.get(), digest.data(), nullptr);
-  return digest;
-}
+  void Add(std::span<const std::uint8_t> bytes) {
+    ok_ = ok_ && EVP_DigestUpdate(context_.get(), bytes.data(), bytes.size()) == 1;
+  }
+  /// The sum of what was added so far; more may follow.
+  std::optional<Sha1Digest> Sum() const {
+    const Context copy = NewContext();
+    Sha1Digest digest{};
+    if (!ok_ || !copy || EVP_MD_CTX_copy_ex(copy.get(), context_.get()) != 1 ||
+        EVP_DigestFinal_ex(copy.get(), digest.data(), nullptr) != 1)
+      return std::nullopt;
+    return digest;
+  }
+
+ private:
+  using Context = std::unique_ptr<EVP_MD_CTX, decltype(&EVP_MD_CTX_free)>;
+  static Context NewContext() { return {EVP_MD_CTX_new(), &EVP_MD_CTX_free}; }
+
+  Context context_ = NewContext();
+  bool ok_;
+};
 
 }  // namespace
 
-Rar5Keys DeriveRar5Keys(const std::string& password, const RarSalt& salt, int exponent) {
+std::optional<Rar5Keys> DeriveRar5Keys(const std::string& password, const RarSalt& salt,
+                                       int exponent) {
   const int rounds = 1 << exponent;
-  Rar5Keys keys;
-  keys.cipher = Stretch(password, salt, rounds);
-  keys.sums = Stretch(password, salt, rounds + 16);
-  const Digest256 check = Stretch(password, salt, rounds + 32);
-  for (std::size_t i = 0; i < check.size(); ++i) keys.check[i % keys.check.size()] ^= check[i];
+  const auto cipher = Stretch(password, salt, rounds);
+  const auto sums = Stretch(password, salt, rounds + 16);
+  const auto check = Stretch(password, salt, rounds + 32);
+  if (!cipher || !sums || !check) return std::nullopt;
+  Rar5Keys keys{*cipher, *sums, {}};
+  for (std::size_t i = 0; i < check->size(); ++i) keys.check[i % keys.check.size()] ^= (*check)[i];
   return keys;
 }
 
-Rar4Keys DeriveRar4Keys(const std::string& password, const std::optional<Rar4Salt>& salt) {
+std::optional<Rar4Keys> DeriveRar4Keys(const std::string& password,
+                                       const std::optional<Rar4Salt>& salt) {
   Bytes seed = Utf16Of(password);
   if (salt) seed.insert(seed.end(), salt->begin(), salt->end());
 
   Rar4Keys keys;
-  const DigestContext running = NewDigestContext();
-  const DigestContext snapshot = NewDigestContext();
-  EVP_DigestInit_ex(running.get(), EVP_sha1(), nullptr);
+  Sha1 running;
   for (std::uint32_t round = 0; round < kRounds4; ++round) {
     const std::array<std::uint8_t, 3> count = {static_cast<std::uint8_t>(round),
                                                static_cast<std::uint8_t>(round >> 8),
                                                static_cast<std::uint8_t>(round >> 16)};
-    EVP_DigestUpdate(running.get(), seed.data(), seed.size());
-    EVP_DigestUpdate(running.get(), count.data(), count.size());
-    if (round % (kRounds4 / keys.iv.size()) == 0) {
-      EVP_MD_CTX_copy_ex(snapshot.get(), running.get());
-      keys.iv[round / (kRounds4 / keys.iv.size())] = Finish(snapshot)[19];
-    }
+    running.Add(seed);
+    running.Add(count);
+    if (round % (kRounds4 / keys.iv.size()) != 0) continue;
+    const auto sum = running.Sum();
+    if (!sum) return std::nullopt;
+    keys.iv[round / (kRounds4 / keys.iv.size())] = sum->back();
   }
-  const Sha1Digest digest = Finish(running);
-  for (std::size_t i = 0; i < keys.cipher.size(); ++i) keys.cipher[i] = digest[i ^ 3];
+  const auto sum = running.Sum();
+  if (!sum) return std::nullopt;
+  for (std::size_t i = 0; i < keys.cipher.size(); ++i) keys.cipher[i] = (*sum)[i ^ 3];
   return keys;
 }
 
-std::optional<Rar5Keys> RarKeyRing::Keys5(const RarSalt& salt, int exponent) {
-  if (exponent > kMaxExponent) return std::nullopt;
-  const auto known = keys5_.find({salt, exponent});
-  if (known != keys5_.end()) return known->second;
-  workLeft_ -= std::int64_t{1} << exponent;
-  if (workLeft_ < 0) return std::nullopt;
-  return keys5_[{salt, exponent}] = DeriveRar5Keys(password_, salt, exponent);
+template <typename Known, typename Derive>
+auto RarKeyRing::KnownOrMade(Known& known, const typename Known::key_type& which, std::int64_t work,
+                             const Derive& derive) -> RarKeyResult<typename Known::mapped_type> {
+  const auto found = known.find(which);
+  if (found != known.end()) return {found->second, {}};
+  workLeft_ -= work;
+  if (workLeft_ < 0) return {std::nullopt, kTooMuchWork};
+  const auto made = derive();
+  if (!made) return {std::nullopt, kCryptoFails};
+  known.emplace(which, *made);
+  return {made, {}};
 }
 
-std::optional<Rar4Keys> RarKeyRing::Keys4(const std::optional<Rar4Salt>& salt) {
-  const auto known = keys4_.find(salt);
-  if (known != keys4_.end()) return known->second;
-  workLeft_ -= kWorkOfKey4;
-  if (workLeft_ < 0) return std::nullopt;
-  return keys4_[salt] = DeriveRar4Keys(password_, salt);
+RarKeyResult<Rar5Keys> RarKeyRing::Keys5(const RarSalt& salt, int exponent) {
+  if (exponent > kMaxExponent) return {std::nullopt, kTooMuchWork};
+  return KnownOrMade(keys5_, {salt, exponent}, std::int64_t{1} << exponent,
+                     [&] { return DeriveRar5Keys(password_, salt, exponent); });
 }
 
-std::array<std::uint8_t, 4> CheckValueSum(const RarCheckValue& check) {
-  const Digest256 digest = Sha256(check);
-  return {digest[0], digest[1], digest[2], digest[3]};
+RarKeyResult<Rar4Keys> RarKeyRing::Keys4(const std::optional<Rar4Salt>& salt) {
+  return KnownOrMade(keys4_, salt, kWorkOfKey4, [&] { return DeriveRar4Keys(password_, salt); });
 }
 
-std::uint32_t TweakedCrc(std::uint32_t crc, const Rar5Keys& keys) {
+std::optional<std::array<std::uint8_t, 4>> CheckValueSum(const RarCheckValue& check) {
+  const auto digest = Sha256(check);
+  if (!digest) return std::nullopt;
+  return std::array{(*digest)[0], (*digest)[1], (*digest)[2], (*digest)[3]};
+}
+
+std::optional<std::uint32_t> TweakedCrc(std::uint32_t crc, const Rar5Keys& keys) {
   const std::array<std::uint8_t, 4> plain = {
       static_cast<std::uint8_t>(crc), static_cast<std::uint8_t>(crc >> 8),
       static_cast<std::uint8_t>(crc >> 16), static_cast<std::uint8_t>(crc >> 24)};
-  const Digest256 digest = HmacSha256(keys.sums, plain);
+  const auto digest = HmacSha256(keys.sums, plain);
+  if (!digest) return std::nullopt;
   std::uint32_t folded = 0;
-  for (std::size_t i = 0; i < digest.size(); ++i)
-    folded ^= static_cast<std::uint32_t>(digest[i]) << i % 4 * 8;
+  for (std::size_t i = 0; i < digest->size(); ++i)
+    folded ^= static_cast<std::uint32_t>((*digest)[i]) << i % 4 * 8;
   return folded;
 }
 

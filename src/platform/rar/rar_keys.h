@@ -20,6 +20,15 @@ struct Rar4Keys {
   AesBlock iv{};
 };
 
+inline constexpr const char* kCryptoFails = "the encryption library of this system fails";
+
+/// Keys, or why there are none.
+template <typename Keys>
+struct RarKeyResult {
+  std::optional<Keys> keys;
+  std::string problem;
+};
+
 /// Makes the keys that a password (UTF-8) gives and remembers them by salt: each costs tens of
 /// milliseconds on purpose, and archives use few salts. An archive that asks for an absurd amount
 /// of such work gets no key.
@@ -34,23 +43,31 @@ class RarKeyRing {
       : password_(std::move(password)), workLeft_(work) {}
 
   bool HasPassword() const { return !password_.empty(); }
-  /// Nothing for an exponent above `kMaxExponent` or when the archive's share of work is used up.
-  std::optional<Rar5Keys> Keys5(const RarSalt& salt, int exponent);
-  std::optional<Rar4Keys> Keys4(const std::optional<Rar4Salt>& salt);
+  /// Nothing for an exponent above `kMaxExponent`, when the archive's share of work is used up, or
+  /// when libcrypto fails.
+  RarKeyResult<Rar5Keys> Keys5(const RarSalt& salt, int exponent);
+  RarKeyResult<Rar4Keys> Keys4(const std::optional<Rar4Salt>& salt);
 
  private:
+  template <typename Known, typename Derive>
+  auto KnownOrMade(Known& known, const typename Known::key_type& which, std::int64_t work,
+                   const Derive& derive) -> RarKeyResult<typename Known::mapped_type>;
+
   std::string password_;
   std::map<std::pair<RarSalt, int>, Rar5Keys> keys5_;
   std::map<std::optional<Rar4Salt>, Rar4Keys> keys4_;
   std::int64_t workLeft_;
 };
 
-Rar5Keys DeriveRar5Keys(const std::string& password, const RarSalt& salt, int exponent);
-Rar4Keys DeriveRar4Keys(const std::string& password, const std::optional<Rar4Salt>& salt);
+/// Nothing when libcrypto fails: these and the following.
+std::optional<Rar5Keys> DeriveRar5Keys(const std::string& password, const RarSalt& salt,
+                                       int exponent);
+std::optional<Rar4Keys> DeriveRar4Keys(const std::string& password,
+                                       const std::optional<Rar4Salt>& salt);
 
 /// The first four bytes of the check value's SHA-256, which archives store behind it.
-std::array<std::uint8_t, 4> CheckValueSum(const RarCheckValue& check);
+std::optional<std::array<std::uint8_t, 4>> CheckValueSum(const RarCheckValue& check);
 /// What an archive with keyed checksums stores in place of a CRC.
-std::uint32_t TweakedCrc(std::uint32_t crc, const Rar5Keys& keys);
+std::optional<std::uint32_t> TweakedCrc(std::uint32_t crc, const Rar5Keys& keys);
 
 }  // namespace coilrun

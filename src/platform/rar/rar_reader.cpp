@@ -75,17 +75,18 @@ RarContents RarReader::Read(std::size_t index) {
   const std::string problem = PasswordProblem(entry.packed);
   if (!problem.empty()) return {{}, problem};
   RarContents contents = Compressed(entry) ? Unpack(index) : Unstore(entry);
-  if (contents.Ok() && !SumsFit(entry.packed, contents.bytes)) return {{}, DamageProblem(entry)};
-  return contents;
+  if (!contents.Ok()) return contents;
+  const std::string wrong = SumsProblem(entry, contents.bytes);
+  return wrong.empty() ? std::move(contents) : RarContents{{}, wrong};
 }
 
 std::string RarReader::PasswordProblem(const RarPacked& packed) {
   if (!packed.Encrypted()) return {};
   if (!keys_.HasPassword()) return "encrypted, and no password was given";
-  if (packed.encryption4) return keys_.Keys4(packed.encryption4->salt) ? "" : kTooManyKeys;
+  if (packed.encryption4) return keys_.Keys4(packed.encryption4->salt).problem;
   const Rar5KeyRecipe& recipe = packed.encryption5->recipe;
-  const auto keys = keys_.Keys5(recipe.salt, recipe.exponent);
-  if (!keys) return kTooManyKeys;
+  const auto [keys, problem] = keys_.Keys5(recipe.salt, recipe.exponent);
+  if (!keys) return problem;
   if (recipe.check && *recipe.check != keys->check) return "wrong password";
   const bool provable = recipe.check || packed.crc || packed.blake;
   return provable ? "" : "nothing tells whether the password is right";
@@ -95,28 +96,30 @@ std::span<const std::uint8_t> RarReader::PackedBytes(const RarPacked& packed) co
   return std::span(file_).subspan(packed.offset, packed.size);
 }
 
-/// The packed bytes in the clear, for an entry without a `PasswordProblem`.
-Bytes RarReader::Decrypt(const RarPacked& packed) {
+/// The packed bytes in the clear, for an entry without a `PasswordProblem`; nothing when libcrypto
+/// fails.
+std::optional<Bytes> RarReader::Decrypt(const RarPacked& packed) {
   const auto bytes = PackedBytes(packed);
   if (packed.encryption4) {
-    const Rar4Keys keys = *keys_.Keys4(packed.encryption4->salt);
-    return AesDecrypt(keys.cipher, keys.iv, bytes);
+    const auto keys = keys_.Keys4(packed.encryption4->salt).keys;
+    return keys ? AesDecrypt(keys->cipher, keys->iv, bytes) : std::nullopt;
   }
   if (packed.encryption5) {
     const Rar5KeyRecipe& recipe = packed.encryption5->recipe;
-    const Rar5Keys keys = *keys_.Keys5(recipe.salt, recipe.exponent);
-    return AesDecrypt(keys.cipher, packed.encryption5->iv, bytes);
+    const auto keys = keys_.Keys5(recipe.salt, recipe.exponent).keys;
+    return keys ? AesDecrypt(keys->cipher, packed.encryption5->iv, bytes) : std::nullopt;
   }
-  return {bytes.begin(), bytes.end()};
+  return Bytes(bytes.begin(), bytes.end());
 }
 
 RarContents RarReader::Unstore(const RarEntry& entry) {
   const std::uint64_t expected =
       entry.packed.Encrypted() ? RoundedToBlocks(entry.size) : entry.size;
   if (entry.packed.size != expected) return {{}, "its sizes do not fit"};
-  Bytes contents = Decrypt(entry.packed);
-  contents.resize(entry.size);
-  return {std::move(contents), {}};
+  auto contents = Decrypt(entry.packed);
+  if (!contents) return {{}, kCryptoFails};
+  contents->resize(static_cast<std::size_t>(entry.size));
+  return {std::move(*contents), {}};
 }
 
 RarContents RarReader::Unpack(std::size_t index) {
@@ -143,8 +146,10 @@ std::string RarReader::PrepareUnpacker(std::size_t index) {
     const RarPacked& packed = entry.packed;
     std::string problem = PasswordProblem(packed);
     if (!problem.empty()) return problem;
+    auto data = Decrypt(packed);
+    if (!data) return kCryptoFails;
     CompressedItem item{entry.size,     packed.crc.value_or(0), packed.method,
-                        packed.version, packed.window,          Decrypt(packed)};
+                        packed.version, packed.window,          std::move(*data)};
     if (generation_ == 5 && packed.Encrypted()) item.data.resize(PackedBlocksSize(item.data));
     items.push_back(std::move(item));
   }
@@ -173,19 +178,27 @@ std::vector<std::size_t> RarReader::GroupOf(std::size_t index) const {
   return group;
 }
 
-bool RarReader::SumsFit(const RarPacked& packed, const Bytes& contents) {
+/// Why contents are not what the archive says they are; empty when all sums fit.
+std::string RarReader::SumsProblem(const RarEntry& entry, const Bytes& contents) {
+  const RarPacked& packed = entry.packed;
   std::optional<Rar5Keys> keys;
-  if (packed.encryption5 && packed.encryption5->tweakedSums)
-    keys = keys_.Keys5(packed.encryption5->recipe.salt, packed.encryption5->recipe.exponent);
+  if (packed.encryption5 && packed.encryption5->tweakedSums) {
+    keys = keys_.Keys5(packed.encryption5->recipe.salt, packed.encryption5->recipe.exponent).keys;
+    if (!keys) return kCryptoFails;
+  }
   if (packed.crc) {
-    const std::uint32_t crc = Crc32(contents);
-    if ((keys ? TweakedCrc(crc, *keys) : crc) != *packed.crc) return false;
+    const std::uint32_t plain = Crc32(contents);
+    const std::optional<std::uint32_t> crc = keys ? TweakedCrc(plain, *keys) : plain;
+    if (!crc) return kCryptoFails;
+    if (*crc != *packed.crc) return DamageProblem(entry);
   }
   if (packed.blake) {
-    const Digest256 digest = Blake2sp(contents);
-    if ((keys ? HmacSha256(keys->sums, digest) : digest) != *packed.blake) return false;
+    auto digest = Blake2sp(contents);
+    if (digest && keys) digest = HmacSha256(keys->sums, *digest);
+    if (!digest) return kCryptoFails;
+    if (*digest != *packed.blake) return DamageProblem(entry);
   }
-  return true;
+  return {};
 }
 
 }  // namespace coilrun

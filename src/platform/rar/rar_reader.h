@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <vector>
@@ -40,12 +41,12 @@ class RarReader {
   void RefuseUnfit();
   std::string PasswordProblem(const RarPacked& packed);
   std::span<const std::uint8_t> PackedBytes(const RarPacked& packed) const;
-  Bytes Decrypt(const RarPacked& packed);
+  std::optional<Bytes> Decrypt(const RarPacked& packed);
   RarContents Unstore(const RarEntry& entry);
   RarContents Unpack(std::size_t index);
   std::string PrepareUnpacker(std::size_t index);
   std::vector<std::size_t> GroupOf(std::size_t index) const;
-  bool SumsFit(const RarPacked& packed, const Bytes& contents);
+  std::string SumsProblem(const RarEntry& entry, const Bytes& contents);
 
   Bytes file_;
   RarKeyRing keys_;

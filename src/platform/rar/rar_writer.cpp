@@ -1,6 +1,7 @@
 #include "platform/rar/rar_writer.h"
 
 #include <algorithm>
+#include <array>
 #include <optional>
 
 #include "platform/rar/aes.h"
@@ -20,6 +21,7 @@ constexpr std::uint64_t kFolderMode = 0040755;
 struct Cipher {
   RarSalt salt{};
   Rar5Keys keys;
+  std::array<std::uint8_t, 4> checkSum{};
 };
 
 Bytes BytesOf(const std::string& text) {
@@ -33,22 +35,32 @@ std::array<std::uint8_t, kCount> Beginning(const Digest256& digest) {
   return result;
 }
 
-Digest256 Fingerprint(const RarSource& source) {
+std::optional<Digest256> Fingerprint(const RarSource& source) {
+  const auto name = Sha256(BytesOf(source.name));
+  const auto contents = Sha256(source.contents);
+  if (!name || !contents) return std::nullopt;
   ByteWriter text;
-  text.Add(Sha256(BytesOf(source.name)));
-  text.Add(Sha256(source.contents));
+  text.Add(*name);
+  text.Add(*contents);
   return Sha256(text.Written());
 }
 
 /// Salt and initial vectors come from what is packed: as different as the contents are, and the
 /// same again for the same contents.
-Cipher MakeCipher(std::span<const RarSource> sources, const std::string& password) {
+std::optional<Cipher> MakeCipher(std::span<const RarSource> sources, const std::string& password) {
   ByteWriter all;
-  for (const RarSource& source : sources) all.Add(Fingerprint(source));
-  Cipher cipher;
-  cipher.salt = Beginning<16>(HmacSha256(BytesOf(password), all.Written()));
-  cipher.keys = DeriveRar5Keys(password, cipher.salt, kExponent);
-  return cipher;
+  for (const RarSource& source : sources) {
+    const auto fingerprint = Fingerprint(source);
+    if (!fingerprint) return std::nullopt;
+    all.Add(*fingerprint);
+  }
+  const auto digest = HmacSha256(BytesOf(password), all.Written());
+  if (!digest) return std::nullopt;
+  const auto salt = Beginning<16>(*digest);
+  const auto keys = DeriveRar5Keys(password, salt, kExponent);
+  const auto checkSum = keys ? CheckValueSum(keys->check) : std::nullopt;
+  if (!checkSum) return std::nullopt;
+  return Cipher{salt, *keys, *checkSum};
 }
 
 Bytes CipherRecord(const Cipher& cipher, const AesBlock& iv) {
@@ -60,7 +72,7 @@ Bytes CipherRecord(const Cipher& cipher, const AesBlock& iv) {
   record.Add(cipher.salt);
   record.Add(iv);
   record.Add(cipher.keys.check);
-  record.Add(CheckValueSum(cipher.keys.check));
+  record.Add(cipher.checkSum);
   ByteWriter sized;
   sized.Vint(record.Written().size());
   sized.Add(record.Written());
@@ -88,29 +100,43 @@ Bytes FileFields(const RarSource& source, const Bytes& extra, std::size_t dataSi
   return fields.Written();
 }
 
-void AddSource(ByteWriter& archive, const RarSource& source, const std::optional<Cipher>& cipher) {
-  const std::uint32_t crc = Crc32(source.contents);
-  if (!cipher || source.contents.empty()) {
-    rar5::AddHeader(archive, FileFields(source, {}, source.contents.size(), crc));
-    archive.Add(source.contents);
-    return;
-  }
-  const auto iv = Beginning<16>(HmacSha256(cipher->keys.sums, Fingerprint(source)));
-  const Bytes data = AesEncrypt(cipher->keys.cipher, iv, source.contents);
-  rar5::AddHeader(archive, FileFields(source, CipherRecord(*cipher, iv), data.size(),
-                                      TweakedCrc(crc, cipher->keys)));
-  archive.Add(data);
+void AddPlain(ByteWriter& archive, const RarSource& source) {
+  const std::size_t size = source.contents.size();
+  rar5::AddHeader(archive, FileFields(source, {}, size, Crc32(source.contents)));
+  archive.Add(source.contents);
+}
+
+bool AddEncrypted(ByteWriter& archive, const RarSource& source, const Cipher& cipher) {
+  const auto fingerprint = Fingerprint(source);
+  const auto digest = fingerprint ? HmacSha256(cipher.keys.sums, *fingerprint) : std::nullopt;
+  const auto crc = TweakedCrc(Crc32(source.contents), cipher.keys);
+  if (!digest || !crc) return false;
+  const auto iv = Beginning<16>(*digest);
+  const auto data = AesEncrypt(cipher.keys.cipher, iv, source.contents);
+  if (!data) return false;
+  rar5::AddHeader(archive, FileFields(source, CipherRecord(cipher, iv), data->size(), *crc));
+  archive.Add(*data);
+  return true;
 }
 
 }  // namespace
 
-Bytes WriteRar(std::span<const RarSource> sources, const std::string& password) {
+std::optional<Bytes> WriteRar(std::span<const RarSource> sources, const std::string& password) {
   std::optional<Cipher> cipher;
-  if (!password.empty()) cipher = MakeCipher(sources, password);
+  if (!password.empty()) {
+    cipher = MakeCipher(sources, password);
+    if (!cipher) return std::nullopt;
+  }
   ByteWriter archive;
   archive.Add(rar5::kSignature);
   rar5::AddHeader(archive, {rar5::kMain, 0, 0});
-  for (const RarSource& source : sources) AddSource(archive, source, cipher);
+  for (const RarSource& source : sources) {
+    if (!cipher || source.contents.empty()) {
+      AddPlain(archive, source);
+    } else if (!AddEncrypted(archive, source, *cipher)) {
+      return std::nullopt;
+    }
+  }
   rar5::AddHeader(archive, {rar5::kEnd, 0, 0});
   return archive.Written();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
 
@@ -18,6 +19,7 @@ struct RarSource {
 
 /// A stored (uncompressed) archive of generation 5. With a password (UTF-8) the contents are
 /// encrypted, the names are not. The same sources and password always give the same archive.
-Bytes WriteRar(std::span<const RarSource> sources, const std::string& password);
+/// Nothing when libcrypto fails.
+std::optional<Bytes> WriteRar(std::span<const RarSource> sources, const std::string& password);
 
 }  // namespace coilrun
