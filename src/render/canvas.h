@@ -27,7 +27,7 @@ class Canvas {
   void DrawWhole(const Picture& picture);
   /// Notes a text that was drawn on the back buffer; an empty one is not worth a note.
   void RecordText(std::string_view text, int x, int y, std::string_view font);
-  /// Swaps back and primary, as the display did: the new back buffer holds an older frame.
+  /// Swaps back and primary: the new back buffer holds an older frame.
   void FlipBuffers();
 
  private:

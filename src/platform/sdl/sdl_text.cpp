@@ -34,7 +34,7 @@ const Face& FaceOf(std::string_view name) {
   return kSansFace;
 }
 
-/// Points at 96 dots an inch, rounded, as the game's texts were laid out.
+/// Pixels of a size in points, at 96 dots an inch, rounded.
 int PixelSize(int points) {
   return (points * 96 + 36) / 72;
 }
