@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "model/saturating.h"
 #include "model/table.h"
@@ -109,6 +110,9 @@ struct CenterLine {
   Int16 Y;
   Int16 Font;
 };
+
+/// The name of those who have given none.
+inline constexpr std::string_view kUnknownName = "Unknown";
 
 struct HiScoreEntry {
   std::string Name;

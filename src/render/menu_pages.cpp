@@ -13,6 +13,7 @@ namespace {
 constexpr Color kWhite{250, 250, 250};
 constexpr Color kDimmed{150, 150, 150};
 constexpr Color kCursor{250, 250, 31};
+constexpr Color kScore{150, 170, 160};
 constexpr int kStatusY = 459;
 constexpr int kVersionX = 580;
 constexpr int kTickerY = 437;
@@ -115,11 +116,11 @@ void MenuPages::DrawOptionsFooter() {
 void MenuPages::DrawHighScorePage() {
   canvas_.DrawWhole(standard_(Standard::kMenuHiScore));
   text_.SetFont(MenuFont("Courier New"));
-  text_.SetColor({150, 170, 160});
   for (int place = 1; place <= kHiScores; ++place) {
     const HiScoreEntry& entry = state_.HiScore(place);
     const int y = 200 + 20 * place;
     const std::string label{kPlaces[static_cast<std::size_t>(place - 1)]};
+    text_.SetColor(place == state_.menus.EnteredPlace ? kCursor : kScore);
     text_.DrawSystemText(label + entry.Name, 310, y);
     text_.DrawSystemText(NumberText(entry.Score) + " Pts", 490, y);
   }

@@ -10,6 +10,7 @@
 #include "shell/leaving.h"
 #include "shell/main_menu.h"
 #include "shell/scan_to_char.h"
+#include "shell/score_name.h"
 
 namespace coilrun {
 namespace {
@@ -104,7 +105,14 @@ void DispatchKey(Shell& shell, int key) {
   }
 }
 
-void EditText(State& state, int key) {
+void EditScoreName(Shell& shell, int key) {
+  if (key == kKeyBackspace) ShortenScoreName(shell.state);
+  if (key == kKeyEnter || key == kKeyEscape) StoreScoreName(shell);
+}
+
+void EditText(Shell& shell, int key) {
+  State& state = shell.state;
+  if (EditsScoreName(state)) return EditScoreName(shell, key);
   std::string& name = state.Snakes(kPlayer).Name;
   if (key == kKeyEnter) {
     if (OnScorePage(state)) state.mode.CheatLine.clear();
@@ -126,6 +134,7 @@ void TypeKey(Shell& shell, int key) {
     std::string& name = state.Snakes(kPlayer).Name;
     name = (name + typed).substr(0, kLongestName);
   }
+  if (EditsScoreName(state)) TypeScoreName(state, typed);
   if (state.menus.InputTarget == InputTarget::kCheat) TypeCheat(shell, typed);
 }
 
@@ -153,6 +162,7 @@ void EscapeKey(Shell& shell) {
     AbandonStartUp(shell);
   } else if (OnScorePage(state)) {
     state.menus.ScorePage = 0;
+    state.menus.EnteredPlace = 0;
     state.shell.InMenu = true;
   } else if (OnOptionsPage(state)) {
     state.menus.OptionsPage = 0;
@@ -164,7 +174,7 @@ void EscapeKey(Shell& shell) {
 
 void FireKey(Shell& shell, int key) {
   DispatchKey(shell, key);
-  EditText(shell.state, key);
+  EditText(shell, key);
   shell.state.keys.LastKey = key;
   shell.state.keys.KeyPressed = key;
   TypeKey(shell, key);

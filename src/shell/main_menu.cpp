@@ -66,7 +66,8 @@ void MainPage(Shell& shell) {
 void HighScorePage(Shell& shell) {
   shell.renderer.Menus().DrawHighScorePage();
   shell.state.menus.TypingActive = true;
-  shell.state.menus.InputTarget = InputTarget::kCheat;
+  shell.state.menus.InputTarget =
+      shell.state.menus.EditsName ? InputTarget::kScoreName : InputTarget::kCheat;
 }
 
 void DrawPage(Shell& shell) {

@@ -50,7 +50,7 @@ class Reader {
     if (value < lowest || value > highest) value = fallback;
   }
   void Name(std::string_view key, std::string& value) const {
-    value = store_.Get(section_, key).value_or("Unknown").substr(0, kLongestName);
+    value = store_.Get(section_, key).value_or(std::string{kUnknownName}).substr(0, kLongestName);
   }
 
   double NumberOr(std::string_view key, double fallback) const {

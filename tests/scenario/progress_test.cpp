@@ -43,6 +43,37 @@ TEST(Progress, KeysWaitWithTheLevelScreenAndTheScreenWithTheDeath) {
   EXPECT_EQ(run.states[1]["ShowLevelScreen"], false);
 }
 
+TEST(Progress, ANewHighScoreAsksForTheNameThatItLacks) {
+  const ProgramFolder folder;
+  const std::string user = (folder.Home() / "user").string();
+  const auto script = ScriptText()
+                          .At(500, "tap 59")
+                          .At(600, "set Snakes.1.TotalScore 9500")
+                          .At(600, "set nextLvl .\\lvl\\END")
+                          .At(600, "set reqYellow 0")
+                          .At(600, "set reqScore 0")
+                          .At(600, "tap 203")
+                          .At(1000, "tap 28")
+                          .At(1900, "type eva")
+                          .At(2200, "state")
+                          .At(2200, "shot name.png")
+                          .At(2300, "tap 28")
+                          .At(2400, "type god")
+                          .At(2700, "tap 1")
+                          .At(2900, "state")
+                          .At(3000, "end");
+  const GameRun run = folder.PlayAsShipped(script.Text(), {"/L=lvl3.dat", "--user", user});
+  ASSERT_THAT(run.states, SizeIs(2)) << run.errors;
+  EXPECT_EQ(run.states[0]["InputTarget"], "ScoreName");
+  EXPECT_EQ(run.states[0]["HiScore"][1]["Name"], "eva");
+  EXPECT_EQ(run.states[0]["CheatLine"], "");
+  EXPECT_EQ(run.states[1]["CheatLine"], "god");
+  const GameRun later = folder.PlayAsShipped("700 state\n700 end", {"--user", user});
+  EXPECT_EQ(later.states[0]["HiScore"][1]["Name"], "eva");
+  EXPECT_EQ(later.states[0]["HiScore"][1]["Score"], 9800) << "with the time bonus";
+  EXPECT_EQ(later.states[0]["Snakes"][0]["Name"], "eva");
+}
+
 TEST(Progress, ACompletedLevelLeadsIntoTheNext) {
   const ProgramFolder folder;
   const auto script = ScriptText()
@@ -95,7 +126,7 @@ TEST(Progress, TheFourthDeathEndsTheGameAndEntersTheTable) {
   EXPECT_EQ(menus["InMenu"], true);
   EXPECT_EQ(menus["NoGameRunning"], true);
   EXPECT_EQ(menus["ScorePage"], 1);
-  EXPECT_EQ(menus["HiScore"][1]["Score"], 9500);
+  EXPECT_EQ(menus["HiScore"][1]["Score"], 9800) << "with the time bonus";
   EXPECT_EQ(menus["HiScore"][2]["Score"], 8000) << "nothing moves down";
   EXPECT_EQ(menus["Snakes"][0]["Lives"], 3);
   EXPECT_EQ(menus["Snakes"][0]["TotalScore"], 0);
