@@ -41,6 +41,7 @@ void StoreHighScore(Game& game, HiScoreEntry& entry) {
 void GameOverScreen(Game& game) {
   State& state = game.state;
   game.host.Yield();
+  game.host.RefreshHighScores();
   state.overlay = WaitOverlay::kGameOver;
   SetCenterLine(state, 0, "Game Over", 215);
   SetCenterLine(state, 1, "-Press Enter-", 230);
@@ -76,7 +77,6 @@ void LeaveGame(State& state) {
 
 void CheckGameOver(Game& game) {
   if (game.state.Snakes(kPlayer).Lives >= 0) return;
-  game.host.RefreshHighScores();
   GameOverScreen(game);
   LeaveGame(game.state);
 }

@@ -1,7 +1,9 @@
 #include "platform/atomic_file.h"
 
 #include <cerrno>
+#include <chrono>
 #include <span>
+#include <thread>
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -32,6 +34,18 @@ bool IsRegular(const FileHandle& file) {
   return fstat(file.Descriptor(), &status) == 0 && S_ISREG(status.st_mode);
 }
 
+/// Waits for other running games, which are quick, but not for one that has been stopped.
+bool Lock(const FileHandle& file) {
+  constexpr auto kPatience = std::chrono::milliseconds(500);
+  constexpr auto kPause = std::chrono::milliseconds(5);
+  const auto end = std::chrono::steady_clock::now() + kPatience;
+  while (flock(file.Descriptor(), LOCK_EX | LOCK_NB) != 0) {
+    if (errno != EWOULDBLOCK || std::chrono::steady_clock::now() >= end) return false;
+    std::this_thread::sleep_for(kPause);
+  }
+  return true;
+}
+
 /// The temporary file, ours alone while it is open: two running games must not mix theirs. One left
 /// behind by a crash is taken over.
 FileHandle OpenTemporary(const fs::path& temporary) {
@@ -43,7 +57,7 @@ FileHandle OpenTemporary(const fs::path& temporary) {
       errno = EEXIST;
       return {};
     }
-    if (flock(file.Descriptor(), LOCK_EX) != 0) return {};
+    if (!Lock(file)) return {};
     if (IsSame(file, temporary)) return file;
   }
 }

@@ -68,11 +68,13 @@ struct IniSettings::Store {
                  ToUtf8(QuoteIniValue(value)).c_str());
   }
   std::string Text() const {
-    std::string text;
-    ini.Save(text);
-    return text;
+    std::string whole;
+    ini.Save(whole);
+    return whole;
   }
 
+  /// The file that this was read from.
+  std::string text;
   CSimpleIniA ini;
 };
 
@@ -82,6 +84,7 @@ IniSettings::IniSettings(fs::path file, const fs::path& defaults, Report report)
       store_(ReadStore()),
       defaults_(std::make_unique<Store>()) {
   if (!store_) store_ = std::make_unique<Store>();
+  taken_ = store_->text;
   const IniFile shipped = ReadIni(defaults);
   const auto problem = shipped.damage ? shipped.damage : shipped.unreadable;
   if (problem) report_("The default settings " + defaults.string() + " are left out: " + *problem);
@@ -101,7 +104,7 @@ std::unique_ptr<IniSettings::Store> IniSettings::ReadStore() {
   }
   auto store = std::make_unique<Store>();
   if (!stored.damage && store->ini.LoadData(stored.text) >= 0) {
-    onDisk_ = stored.text;
+    store->text = stored.text;
     return store;
   }
   SetAside(stored.damage.value_or("it cannot be taken apart"));
@@ -128,33 +131,55 @@ std::optional<std::string> IniSettings::Shipped(std::string_view section,
   return defaults_->Get(section, key);
 }
 
-void IniSettings::Set(std::string_view section, std::string_view key, std::string_view value) {
-  if (store_->Get(section, key) == std::string(value)) return;
-  store_->Set(section, key, value);
-  changed_.emplace(section, key);
+void IniSettings::TakeAsRead(std::string_view section, std::string_view key,
+                             std::string_view value) {
+  const Key id{section, key};
+  // What could not be saved yet is still this instance's own.
+  if (!set_.contains(id)) known_[id] = {std::string(value), store_->Get(section, key)};
 }
 
-void IniSettings::CarryChangesInto(Store& store) const {
-  for (const auto& [section, key] : changed_) {
-    if (const auto value = store_->Get(section, key)) store.Set(section, key, *value);
+void IniSettings::Set(std::string_view section, std::string_view key, std::string_view value) {
+  const Key id{section, key};
+  const auto stored = store_->Get(section, key);
+  known_.try_emplace(id, Known{stored, stored});
+  set_.insert(id);
+  if (stored != std::string(value)) store_->Set(section, key, value);
+}
+
+/// Whether another instance has stored a value that this one has not changed.
+bool IniSettings::GivesWay(const Key& key, const std::optional<std::string>& theirs) const {
+  const Known& known = known_.at(key);
+  return theirs && theirs != known.stored && store_->Get(key.first, key.second) == known.value;
+}
+
+void IniSettings::CarryInto(Store& store) const {
+  for (const Key& key : set_) {
+    const auto& [section, name] = key;
+    const auto theirs = store.Get(section, name);
+    const auto own = store_->Get(section, name);
+    if (own && own != theirs && !GivesWay(key, theirs)) store.Set(section, name, *own);
   }
 }
 
 bool IniSettings::Refresh() {
   if (!overwritingAllowed_) return false;
-  const std::string known = onDisk_;
   auto stored = ReadStore();
-  if (!stored || onDisk_ == known) return false;
-  CarryChangesInto(*stored);
+  if (!stored || stored->text == taken_) return false;
+  CarryInto(*stored);
   store_ = std::move(stored);
+  taken_ = store_->text;
   return true;
 }
 
 bool IniSettings::Save() {
   if (!overwritingAllowed_) return false;
-  const std::error_code error = ReplaceFile(file_, [this] { return TextToSave(); });
+  std::unique_ptr<Store> merged;
+  const std::error_code error = ReplaceFile(file_, [&] {
+    merged = MergedStore();
+    return merged ? std::optional(merged->Text()) : std::nullopt;
+  });
   if (!error) {
-    changed_.clear();
+    RememberAsWritten(*merged);
     return true;
   }
   if (!overwritingAllowed_) return false;
@@ -162,12 +187,25 @@ bool IniSettings::Save() {
 }
 
 /// The store on disk with what this instance has changed; nothing when it must not be overwritten.
-std::optional<std::string> IniSettings::TextToSave() {
-  const auto stored = ReadStore();
-  if (!overwritingAllowed_) return std::nullopt;
-  if (stored) CarryChangesInto(*stored);
-  onDisk_ = stored ? stored->Text() : store_->Text();
-  return onDisk_;
+std::unique_ptr<IniSettings::Store> IniSettings::MergedStore() {
+  auto stored = ReadStore();
+  if (!overwritingAllowed_) return nullptr;
+  if (!stored) {
+    stored = std::make_unique<Store>();
+    stored->ini.LoadData(store_->Text());
+  }
+  CarryInto(*stored);
+  return stored;
+}
+
+void IniSettings::RememberAsWritten(const Store& written) {
+  for (const Key& key : set_) {
+    const auto own = store_->Get(key.first, key.second);
+    if (own == written.Get(key.first, key.second)) known_[key] = {own, own};
+  }
+  set_.clear();
+  // What others have stored is news until it is taken in.
+  if (written.text == taken_) taken_ = written.Text();
 }
 
 bool IniSettings::Fails(const std::string& reason) {

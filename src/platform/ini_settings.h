@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <functional>
+#include <map>
 #include <memory>
 #include <optional>
 #include <set>
@@ -27,28 +28,40 @@ class IniSettings : public SettingsStore {
   std::optional<std::string> Get(std::string_view section, std::string_view key) const override;
   std::optional<std::string> Shipped(std::string_view section, std::string_view key) const override;
   void Set(std::string_view section, std::string_view key, std::string_view value) override;
+  void TakeAsRead(std::string_view section, std::string_view key, std::string_view value) override;
   bool Refresh() override;
   bool Save() override;
 
  private:
   struct Store;
+  using Key = std::pair<std::string, std::string>;
+  /// A value as this game has last read or written it, and as it stood in the file then.
+  struct Known {
+    std::optional<std::string> value;
+    std::optional<std::string> stored;
+  };
+
   std::unique_ptr<Store> ReadStore();
   void SetAside(const std::string& reason);
-  std::optional<std::string> TextToSave();
-  void CarryChangesInto(Store& store) const;
+  std::unique_ptr<Store> MergedStore();
+  void CarryInto(Store& store) const;
+  bool GivesWay(const Key& key, const std::optional<std::string>& theirs) const;
+  void RememberAsWritten(const Store& written);
   bool Fails(const std::string& reason);
 
   std::filesystem::path file_;
   Report report_;
-  /// The file as this instance has last read or written it.
-  std::string onDisk_;
+  /// The file as this instance has last read it, or written it with nothing in it that is unread.
+  std::string taken_;
   bool overwritingAllowed_ = true;
   bool failureReported_ = false;
   /// As this instance has last read it, with its own changes.
   std::unique_ptr<Store> store_;
   std::unique_ptr<Store> defaults_;
-  /// Section and key of what this instance has changed since the last save.
-  std::set<std::pair<std::string, std::string>> changed_;
+  /// Every value that was told as read or has been set.
+  std::map<Key, Known> known_;
+  /// What has been set since the last save.
+  std::set<Key> set_;
 };
 
 }  // namespace coilrun

@@ -101,46 +101,67 @@ void LoadOptions(State& state, const SettingsStore& store) {
   options.IntegerWithin("Player Color", state.Snakes(1).Model, kDefaultModel, 0, Int16::kMax);
 }
 
+/// Calls `take` with section, key and text of every value that is saved, in order.
+template <typename Take>
+void EachHiScore(const State& state, Take take) {
+  for (int place = 1; place <= kHiScores; ++place) {
+    take(kHiScore, std::to_string(place) + "Name", state.HiScore(place).Name);
+    take(kHiScore, std::to_string(place) + "Score", NumberText(state.HiScore(place).Score));
+  }
+}
+
+template <typename Take>
+void EachOption(const State& state, Take take) {
+  const SettingsState& settings = state.settings;
+  take(kTweak, "MinSpeed", NumberText(settings.MinSpeed.Own()));
+  take(kTweak, "MaxSpeed", NumberText(settings.MaxSpeed.Own()));
+  if (!IsMultiplayer(state.mode.GameMode)) {
+    take(kTweak, "Speed", NumberText(settings.SpeedRate.Own()));
+    take(kTweak, "RsetSpeed", BooleanText(settings.NoSpeedReset));
+    take(kTweak, "IncSpeed", BooleanText(settings.IncSpeed.Own()));
+  }
+  take(kOptions, "gSpeed", NumberText(settings.GlobalSpeed));
+  take(kOptions, "Show FPS", BooleanText(state.shell.ShowFPS));
+  take(kOptions, "AnimatedItems", BooleanText(settings.AnimatedItems));
+  take(kOptions, "Player Name", state.Snakes(1).Name);
+  take(kOptions, "SndEnabled", BooleanText(settings.SndEnabled));
+  take(kOptions, "Player Color", NumberText(state.Snakes(1).Model));
+  take(kOptions, "KiSndEnabled", BooleanText(settings.KiSndEnabled));
+  take(kOptions, "MusicEnabled", BooleanText(settings.MusicEnabled));
+  take(kOptions, "MusicVolume", NumberText(settings.MusicVolume));
+  take(kOptions, "NoCleanUp", BooleanText(settings.NoCleanUp));
+}
+
+auto TakingAsRead(SettingsStore& store) {
+  return [&store](std::string_view section, std::string_view key, std::string_view value) {
+    store.TakeAsRead(section, key, value);
+  };
+}
+
 }  // namespace
 
-void LoadHiScores(State& state, const SettingsStore& store) {
+void LoadHiScores(State& state, SettingsStore& store) {
   const Reader scores(store, kHiScore);
   for (int place = 1; place <= kHiScores; ++place) {
     HiScoreEntry& entry = state.HiScore(place);
     scores.Name(std::to_string(place) + "Name", entry.Name);
     scores.Number(std::to_string(place) + "Score", entry.Score, DefaultScore(place));
   }
+  EachHiScore(state, TakingAsRead(store));
 }
 
-void LoadSettings(State& state, const SettingsStore& store) {
+void LoadSettings(State& state, SettingsStore& store) {
   LoadTweaks(state, store);
   LoadOptions(state, store);
+  EachOption(state, TakingAsRead(store));
   LoadHiScores(state, store);
 }
 
 bool SaveSettings(const State& state, SettingsStore& store) {
-  const SettingsState& settings = state.settings;
-  store.Set(kTweak, "MinSpeed", NumberText(settings.MinSpeed.Own()));
-  store.Set(kTweak, "MaxSpeed", NumberText(settings.MaxSpeed.Own()));
-  if (!IsMultiplayer(state.mode.GameMode)) {
-    store.Set(kTweak, "Speed", NumberText(settings.SpeedRate.Own()));
-    store.Set(kTweak, "RsetSpeed", BooleanText(settings.NoSpeedReset));
-    store.Set(kTweak, "IncSpeed", BooleanText(settings.IncSpeed.Own()));
-  }
-  store.Set(kOptions, "gSpeed", NumberText(settings.GlobalSpeed));
-  store.Set(kOptions, "Show FPS", BooleanText(state.shell.ShowFPS));
-  store.Set(kOptions, "AnimatedItems", BooleanText(settings.AnimatedItems));
-  store.Set(kOptions, "Player Name", state.Snakes(1).Name);
-  store.Set(kOptions, "SndEnabled", BooleanText(settings.SndEnabled));
-  store.Set(kOptions, "Player Color", NumberText(state.Snakes(1).Model));
-  store.Set(kOptions, "KiSndEnabled", BooleanText(settings.KiSndEnabled));
-  store.Set(kOptions, "MusicEnabled", BooleanText(settings.MusicEnabled));
-  store.Set(kOptions, "MusicVolume", NumberText(settings.MusicVolume));
-  store.Set(kOptions, "NoCleanUp", BooleanText(settings.NoCleanUp));
-  for (int place = 1; place <= kHiScores; ++place) {
-    store.Set(kHiScore, std::to_string(place) + "Name", state.HiScore(place).Name);
-    store.Set(kHiScore, std::to_string(place) + "Score", NumberText(state.HiScore(place).Score));
-  }
+  const auto set = [&store](std::string_view section, std::string_view key,
+                            std::string_view value) { store.Set(section, key, value); };
+  EachOption(state, set);
+  EachHiScore(state, set);
   return store.Save();
 }
 

@@ -5,11 +5,14 @@
 #include <csignal>
 #include <random>
 #include <thread>
+#include <tuple>
 #include <utility>
 #include <vector>
 
+#include <fcntl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 
@@ -165,6 +168,44 @@ TEST_F(IniSettingsTest, InstancesThatShareAFileKeepEachOthersChanges) {
   EXPECT_THAT(second.Get("Options", "Volume"), Optional(std::string("2")));
 }
 
+TEST_F(IniSettingsTest, AValueThatIsOnlySaidInOtherWordsGivesWayToAnotherInstances) {
+  // What is stored at first, what the other instance stores, what this one sets, what is found.
+  using Row = std::tuple<const char*, const char*, const char*, const char*>;
+  const auto rows = {Row{"", "77", "30", "77"},           Row{"V=030\n", "77", "30", "77"},
+                     Row{"V=30\n", "77", "30", "77"},     Row{"V=030\n", "77", "55", "55"},
+                     Row{"V=030\n", nullptr, "30", "30"}, Row{"", nullptr, "30", "30"}};
+  for (const auto& [stored, theirs, own, found] : rows) {
+    SCOPED_TRACE(testing::Message() << stored << " " << (theirs ? theirs : "-") << " " << own);
+    Put(file_, std::string("[Options]\n") + stored);
+    IniSettings settings = Open();
+    settings.TakeAsRead("Options", "V", "30");
+    if (theirs) Put(file_, std::string("[Options]\nV=") + theirs + "\n");
+    // The second time nothing is left to change.
+    for (int time = 0; time < 2; ++time) {
+      settings.Set("Options", "V", own);
+      EXPECT_TRUE(settings.Save());
+      EXPECT_THAT(Open().Get("Options", "V"), Optional(std::string(found)));
+    }
+  }
+}
+
+TEST_F(IniSettingsTest, WhatASaveFindsOnDiskIsStillNewsAndAVanishedFileIsWrittenWhole) {
+  Put(file_, "[Options]\nA = 1\nB = 1\n");
+  IniSettings settings = Open();
+  Put(file_, "[Options]\nA = 1\nB = 2\n");
+  settings.Set("Options", "A", "2");
+  settings.Set("Options", "B", "1");
+  EXPECT_TRUE(settings.Save());
+  EXPECT_TRUE(settings.Refresh());
+  EXPECT_THAT(settings.Get("Options", "B"), Optional(std::string("2")));
+  EXPECT_FALSE(settings.Refresh());
+
+  std::filesystem::remove(file_);
+  for (const char* const key : {"A", "B"}) settings.Set("Options", key, "2");
+  EXPECT_TRUE(settings.Save());
+  EXPECT_EQ(Contents(file_), "[Options]\nA = 2\nB = 2\n");
+}
+
 TEST_F(IniSettingsTest, ASaveKeepsThePermissions) {
   Put(file_, "[Options]\nX = 1\n");
   using std::filesystem::perms;
@@ -189,6 +230,21 @@ TEST_F(IniSettingsTest, WhatLiesInTheWayOfTheTemporaryFileIsTold) {
     EXPECT_THAT(reports_, ElementsAre(HasSubstr("cannot be written to " + file_.string())));
     std::filesystem::remove(temporary);
   }
+}
+
+TEST_F(IniSettingsTest, ASaveDoesNotWaitForAGameThatHasStopped) {
+  const std::filesystem::path temporary = file_.string() + ".new";
+  Put(temporary, "");
+  const int stopped = open(temporary.c_str(), O_RDONLY | O_CLOEXEC);
+  ASSERT_EQ(flock(stopped, LOCK_EX), 0);
+  IniSettings settings = Open();
+  settings.Set("Options", "X", "2");
+  const auto begin = std::chrono::steady_clock::now();
+  EXPECT_FALSE(settings.Save());
+  EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(1));
+  EXPECT_THAT(reports_, ElementsAre(HasSubstr("cannot be written")));
+  close(stopped);
+  EXPECT_TRUE(settings.Save());
 }
 
 TEST_F(IniSettingsTest, AStoreThatCannotBeWrittenIsToldOnceAndStaysWhole) {

@@ -26,6 +26,9 @@ class MemorySettings final : public SettingsStore {
   void Set(std::string_view section, std::string_view key, std::string_view value) override {
     values[Key{section, key}] = value;
   }
+  void TakeAsRead(std::string_view section, std::string_view key, std::string_view value) override {
+    asRead[Key{section, key}] = value;
+  }
   bool Refresh() override { return false; }
   bool Save() override {
     ++saves;
@@ -33,6 +36,7 @@ class MemorySettings final : public SettingsStore {
   }
 
   std::map<Key, std::string> values;
+  std::map<Key, std::string> asRead;
   int saves = 0;
 };
 

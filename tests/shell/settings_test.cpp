@@ -9,7 +9,8 @@ namespace {
 
 TEST(LoadSettings, AFreshStoreGivesTheDefaults) {
   State state;
-  LoadSettings(state, MemorySettings{});
+  MemorySettings store;
+  LoadSettings(state, store);
   EXPECT_EQ(state.Snakes(1).Name, "Unknown");
   EXPECT_EQ(state.Snakes(1).Model, 1);
   EXPECT_EQ(state.Snakes(16).BaseInterval, 100);
@@ -101,6 +102,22 @@ TEST(SaveSettings, TheLevelsOwnSpeedsAreNotStored) {
   EXPECT_EQ(settings.MaxSpeed, 40);
   EXPECT_EQ(settings.SpeedRate, 0.5);
   EXPECT_FALSE(settings.IncSpeed);
+}
+
+TEST(SaveSettings, WhatTheGameHasNotChangedIsSetInTheWordsItWasToldAsRead) {
+  for (const GameMode mode : {GameMode::kSingle, GameMode::kDeathmatch}) {
+    MemorySettings store;
+    store.Set("Tweak", "MinSpeed", "150,5");
+    store.Set("Options", "MusicVolume", "101");
+    store.Set("Options", "Show FPS", "0");
+    store.Set("Options", "Player Name", "The longest name");
+    State state;
+    state.mode.GameMode = mode;
+    LoadSettings(state, store);
+    store.values.clear();
+    SaveSettings(state, store);
+    EXPECT_EQ(store.values, store.asRead);
+  }
 }
 
 TEST(SaveSettings, WhatIsSavedIsFoundAgain) {
