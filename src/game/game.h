@@ -1,15 +1,17 @@
 #pragma once
 
+#include "game/driver.h"
 #include "game/game_host.h"
 #include "model/snakes_in_play.h"
 #include "model/state.h"
 
 namespace coilrun {
 
-/// What a rule works on: the state, and the host for all that is no rule.
+/// What a rule works on: the state, the host for all that is no rule, and who drives the snakes.
 struct Game {
   State& state;
   GameHost& host;
+  Drivers drivers = {};
 };
 
 inline constexpr int kPlayer = 1;

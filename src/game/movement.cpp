@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <array>
 
-#include "game/ai.h"
-#include "game/game.h"
 #include "game/geometry.h"
 
 namespace coilrun {
@@ -72,13 +70,14 @@ void MoveHead(State& state, int snake) {
   mover.Y = head.y;
 }
 
-void AIStep(State& state, int snake) {
+void AIStep(Game& game, int snake) {
+  State& state = game.state;
   SnakeRec& mover = state.Snakes(snake);
   if (state.shell.WaitingForStart) {
     mover.Dir = Dir::kNone;
     return;
   }
-  const Dir wanted = AIChoose(state, snake);
+  const Dir wanted = game.drivers.Choose(state, snake);
   if (wanted != Dir::kNone) mover.Dir = wanted;
   MoveHead(state, snake);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/state.h"
+#include "game/game.h"
 
 namespace coilrun {
 
@@ -9,7 +9,7 @@ void TurnPlayer(State& state);
 /// Moves a head one step in its direction.
 void MoveHead(State& state, int snake);
 /// One step of an AI snake's head; while the level waits for its start the snake stands still.
-void AIStep(State& state, int snake);
+void AIStep(Game& game, int snake);
 /// Makes the body follow its head: once after each head step.
 void BodyUpdate(State& state, int snake);
 /// Pays out one cell of every snake's pending growth: once a pass.

@@ -8,11 +8,12 @@
 
 namespace coilrun {
 
-void StepAiSnakes(State& state) {
+void StepAiSnakes(Game& game) {
+  State& state = game.state;
   for (int s = kPlayer + 1; s <= kMaxSnakes; ++s) {
     if (StepTimer(state, s).Enabled) continue;
     if (s <= SnakesInPlay(state)) {
-      AIStep(state, s);
+      AIStep(game, s);
       BodyUpdate(state, s);
     }
     state.timers.StartEvenly(StepTimer(state, s));

@@ -5,7 +5,7 @@
 namespace coilrun {
 
 /// Steps every AI snake whose timer has fired, and switches all fired AI timers on again.
-void StepAiSnakes(State& state);
+void StepAiSnakes(Game& game);
 
 bool PlayerStepDue(const State& state);
 /// The player's step up to the head's move and the time limit; items and walls are drawn next.

@@ -136,7 +136,7 @@ void PlayFrame(Shell& shell) {
   shell.music.Check();
   DrawBackdrop(shell);
   ApplyGrowth(state);
-  StepAiSnakes(state);
+  StepAiSnakes(shell.game);
   for (int snake = kPlayer + 1; snake <= SnakesInPlay(state); ++snake)
     shell.renderer.Field().DrawSnake(snake);
   if (PlayerStepDue(state)) {

@@ -5,6 +5,7 @@
 #include "content/load_level.h"
 #include "game/speed.h"
 #include "model/feed.h"
+#include "rivals/rivals.h"
 #include "shell/display.h"
 #include "shell/keys.h"
 #include "shell/leaving.h"
@@ -50,6 +51,7 @@ void Program::RunMenus() {
 
 void Program::LoadLevel(const std::string& path) {
   coilrun::LoadLevel(content_, path);
+  game_.drivers = MakeDrivers(state_.more.Rivals);
   state_.menus.statusHeld = state_.shell.NoGameRunning;
 }
 

@@ -84,7 +84,7 @@ TEST(StepAiSnakes, StepsWhoseTimersHaveFiredAndStartsAllAgain) {
   field.Item(ItemKind::kYellow, {500, 200});
   Timers& timers = field.state.timers;
   timers.Start(timers.iWait(2));
-  StepAiSnakes(field.state);
+  StepAiSnakes(field.game);
   EXPECT_EQ(field.Snake(2).X, 220);
   EXPECT_EQ(field.Snake(2).Seg(1).X, 200);
   EXPECT_EQ(field.Snake(3).X, 300) << "its timer still runs";
@@ -97,7 +97,7 @@ TEST(StepAiSnakes, TheyStandWhileTheLevelWaits) {
   Field field;
   field.Put(2, {200, 200});
   field.state.shell.WaitingForStart = true;
-  EXPECT_EQ(field.After([](Game& game) { StepAiSnakes(game.state); }), "2.Dir=none");
+  EXPECT_EQ(field.After([](Game& game) { StepAiSnakes(game); }), "2.Dir=none");
 }
 
 TEST(PlayerStep, ChecksWallsBeforeTheHeadMoves) {

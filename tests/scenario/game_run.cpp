@@ -16,9 +16,10 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// What a program folder holds before anybody has played in it.
+/// What a program folder holds before anybody has played in it, but for the names that are drawn
+/// for computer snakes.
 constexpr std::array kShipped = {"gfx.snr", "snd.snr",      "models",       "music",
-                                 "fonts",   "defaults.ini", "AI_Names.lst", "intro.bmp"};
+                                 "fonts",   "defaults.ini", "intro.bmp"};
 
 constexpr fs::perms kWriting =
     fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
