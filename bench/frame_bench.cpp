@@ -20,7 +20,7 @@ class Scene {
   explicit Scene(const Crowd& crowd) : text_(static_cast<std::size_t>(crowd.textLength), 'n') {
     PutPictures(stage_.files);
     State& state = stage_.state;
-    state.witness.enabled = false;
+    state.output.enabled = false;
     state.ModelPacks(0) = {"tube.smp", "tube", "Tube", "", true, true, false};
     state.LastModel = 0;
     stage_.renderer.LoadStandardPictures();

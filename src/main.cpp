@@ -80,7 +80,7 @@ int PlayHeadless(const HostOptions& options) {
   if (!made.platform) return Complain(made.problem, kCriticalFailure);
   const auto state = std::make_unique<State>();
   state->clockSeed = options.seed;
-  state->witness.enabled = true;
+  state->output.enabled = true;
   const CommonPorts& common = made.platform->Common();
   ScriptPlayer player(*std::move(loaded.script), {*state, common.clock, common.music,
                                                   made.platform->Pictures(), trace, std::cerr});

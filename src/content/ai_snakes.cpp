@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "content/lines.h"
+#include "game/game.h"
 
 namespace coilrun {
 namespace {
@@ -58,16 +59,15 @@ bool SetupAiSnakes(State& state, const Files& files) {
   if (last < 2) return true;
   auto names = LoadAiNames(files);
   if (!names) return false;
-  for (int number = 2; number <= last; ++number) {
+  for (int number = kPlayer + 1; number <= last; ++number) {
     SnakeRec& snake = state.Snakes(number);
     snake.Dir = Dir::kForw;
     snake.NextDir = Dir::kForw;
-    snake.X = int{snake.StartX};
-    snake.Y = int{snake.StartY};
+    PutOnStart(snake);
     snake.Interval = snake.BaseInterval;
     snake.Model = ChooseAiModel(state);
     snake.Name = TakeName(state, *names, number);
-    state.timers.Start(state.timers.iWait(number - 1));
+    state.timers.Start(StepTimer(state, number));
   }
   return true;
 }

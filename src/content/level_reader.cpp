@@ -190,7 +190,7 @@ bool LevelReader::ApplyText(LevelKey key, std::string_view text) {
 }
 
 bool LevelReader::ApplyToSnakes(LevelKey key, double number) {
-  SnakeRec& player = state_.Snakes(1);
+  SnakeRec& player = state_.Snakes(kPlayer);
   switch (key) {
     case LevelKey::kSnakeStrtX:
       player.StartX = static_cast<int>(number);
@@ -251,7 +251,7 @@ void LevelReader::SetUserItemType(char letter, std::string_view type) {
   if (letter == 0) return;
   for (int slot = 1; slot <= state_.numUserItems; ++slot) {
     UserItemRec& item = state_.UserItems(slot);
-    if (item.Name == std::string_view{&letter, 1}) item.Type = type;
+    if (item.Name == std::string_view{&letter, 1}) item.Type = Written<UserItemType>{type};
   }
 }
 

@@ -6,6 +6,8 @@
 #include "content/level_reader.h"
 #include "content/lines.h"
 #include "content/user_items.h"
+#include "game/game.h"
+#include "game/match_limit.h"
 #include "game/placement.h"
 #include "game/snake_timers.h"
 #include "model/feed.h"
@@ -20,7 +22,7 @@ void ClearField(State& state) {
   for (int slot = 1; slot <= power.Live(); ++slot) power(slot).Present = false;
   for (SpawnRec& point : state.SpawnPoints) {
     point.Present = false;
-    point.State.clear();
+    point.State = {};
   }
   for (UserItemRec& item : state.UserItems) {
     item.Present = false;
@@ -46,10 +48,9 @@ void ResetSnake(State& state, int number) {
   }
   snake.Score = 0;
   snake.Interval = snake.BaseInterval;
-  snake.X = int{snake.StartX};
-  snake.Y = int{snake.StartY};
+  PutOnStart(snake);
   if (number <= state.mode.NumSnakes) {
-    state.timers.SetInterval(state.timers.iWait(number - 1), snake.BaseInterval);
+    state.timers.SetInterval(StepTimer(state, number), snake.BaseInterval);
   }
 }
 
@@ -85,7 +86,7 @@ void ResetTables(State& state) {
   state.numUserItems = 0;
   state.Items(ItemKind::kYellow).count = 0;
   state.numWalls = 0;
-  SnakeRec& player = state.Snakes(1);
+  SnakeRec& player = state.Snakes(kPlayer);
   player.StartX = kDefaultStart.x;
   player.StartY = kDefaultStart.y;
   player.Dir = Dir::kNone;
@@ -127,14 +128,12 @@ bool SetupSnakes(const ContentContext& context) {
   const double offered = std::min<int>(state.level.MapSnakeCount, kMaxSnakes);
   mode.NumSnakes = RoundToInt(std::clamp(asked, 1.0, std::max(offered, 1.0)));
   StartSnakeTimers(state);
-  state.timers.SetInterval(state.timers.iWait(0), state.Snakes(1).Interval);
+  state.timers.SetInterval(StepTimer(state, kPlayer), state.Snakes(kPlayer).Interval);
   return SetupAiSnakes(state, context.files);
 }
 
 void SetMatchLimit(ModeState& mode) {
-  constexpr int kHuntingLength = 30;
-  constexpr int kFrags = 120;
-  if (mode.MatchLimit <= 1) mode.MatchLimit = mode.HuntingMode ? kHuntingLength : kFrags;
+  if (mode.MatchLimit <= 1) mode.MatchLimit = UsualMatchLimit(mode);
 }
 
 bool TryLoadLevel(const ContentContext& context, const std::string& path) {

@@ -1,6 +1,7 @@
 #include "content/user_items.h"
 
 #include "content/progress.h"
+#include "model/animation.h"
 #include "model/feed.h"
 
 namespace coilrun {
@@ -17,9 +18,10 @@ bool PreloadStill(const ContentContext& context, const std::string& name) {
 }
 
 bool PreloadAnimated(const ContentContext& context, const std::string& name) {
-  if (context.host.HoldsPicture(FrameName(name, 1))) return true;
+  const std::string folder = name + "\\";
+  if (context.host.HoldsPicture(FrameFile(folder, 1))) return true;
   for (int frame = 1; frame <= kAnimationFrames; ++frame) {
-    if (!Preload(context, FrameName(name, frame))) return false;
+    if (!Preload(context, FrameFile(folder, frame))) return false;
     ShowPercent(context, frame * 100.0 / kAnimationFrames);
   }
   return true;
@@ -27,26 +29,14 @@ bool PreloadAnimated(const ContentContext& context, const std::string& name) {
 
 }  // namespace
 
-bool IsStillType(std::string_view type) {
-  return type.starts_with("wall");
-}
-
-bool IsAnimatedType(std::string_view type) {
-  return type.starts_with("ani_wall");
-}
-
-std::string FrameName(const std::string& name, int frame) {
-  return name + "\\" + std::to_string(frame) + ".bmp";
-}
-
 bool LoadUserItems(const ContentContext& context) {
   State& state = context.state;
   if (state.numUserItems < 1) return true;
   ShowCaption(context, "Loading UserItems...");
   for (int slot = 1; slot <= state.numUserItems; ++slot) {
     const UserItemRec item = state.UserItems(slot);
-    if (IsStillType(item.Type) && !PreloadStill(context, item.Name)) return false;
-    if (IsAnimatedType(item.Type) && !PreloadAnimated(context, item.Name)) return false;
+    if (IsStill(item.Type) && !PreloadStill(context, item.Name)) return false;
+    if (IsMoving(item.Type) && !PreloadAnimated(context, item.Name)) return false;
   }
   return true;
 }

@@ -14,8 +14,6 @@ struct Game {
   Drivers drivers = {};
 };
 
-inline constexpr int kPlayer = 1;
-
 /// Puts a head on the snake's start cell.
 inline void PutOnStart(SnakeRec& snake) {
   snake.X = snake.StartX;

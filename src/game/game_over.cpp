@@ -10,8 +10,6 @@
 namespace coilrun {
 namespace {
 
-constexpr int kLivesOfAGame = 3;
-
 HiScoreEntry* BeatenEntry(State& state) {
   const int total = state.Snakes(kPlayer).TotalScore;
   auto* const found =

@@ -4,6 +4,8 @@
 
 namespace coilrun {
 
+inline constexpr int kLivesOfAGame = 3;
+
 /// Runs the game-over screen when the player has no life left.
 void CheckGameOver(Game& game);
 /// Ends a game that was played through: the high-score entry and the resets of a game over,

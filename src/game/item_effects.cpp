@@ -37,7 +37,9 @@ void Remove(State& state, ItemKind kind, ItemRec& item, int slot) {
     item.Collected = true;
     return;
   }
-  if (state.SpawnPoints.Holds(item.SpawnPoint)) state.SpawnPoints(item.SpawnPoint).State = "new";
+  if (state.SpawnPoints.Holds(item.SpawnPoint)) {
+    state.SpawnPoints(item.SpawnPoint).State = SpawnUse{SpawnUse::Kind::kJustEaten, {}};
+  }
   if (!PlaceItem(state, kind, slot, false)) item.Present = false;
 }
 

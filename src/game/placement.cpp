@@ -4,10 +4,7 @@
 #include <array>
 #include <cstdlib>
 #include <optional>
-#include <string>
 #include <vector>
-
-#include "model/numbers.h"
 
 namespace coilrun {
 namespace {
@@ -54,7 +51,7 @@ bool AnyKeepOut(const State& state, const Visit& visit) {
     const UserItemRec& item = state.UserItems(slot);
     if (item.Present && visit(item.At(), kUserItemKeepOut)) return true;
   }
-  const SnakeRec& player = state.Snakes(1);
+  const SnakeRec& player = state.Snakes(kPlayer);
   for (int cell = kFirstBlockingSeg; cell <= player.Length && cell <= kLastSeg; ++cell) {
     if (visit(Point{player.Seg(cell).X, player.Seg(cell).Y}, kBodyKeepOut)) return true;
   }
@@ -112,11 +109,15 @@ class SpotMap {
   std::array<bool, std::size_t{kSpotColumns} * kSpotRows> taken_{};
 };
 
+bool IsFree(const SpawnRec& point) {
+  return point.State->kind == SpawnUse::Kind::kFree;
+}
+
 /// The loader's way: any free point, by lot.
 std::optional<int> DrawSpawnPoint(State& state) {
   for (int draw = 0; draw < kSpawnPointDraws; ++draw) {
     const int point = state.Rnd.Below(state.numSpawnPoints) + 1;
-    if (state.SpawnPoints(point).State.empty()) return point;
+    if (IsFree(state.SpawnPoints(point))) return point;
   }
   return std::nullopt;
 }
@@ -126,9 +127,9 @@ std::optional<int> DrawSpawnPoint(State& state) {
 std::optional<int> NextSpawnPoint(State& state) {
   for (int number = 1; number <= state.numSpawnPoints; ++number) {
     SpawnRec& point = state.SpawnPoints(number);
-    if (point.State == "new") {
-      point.State.clear();
-    } else if (point.Present && LeadingNumber(point.State) == 0) {
+    if (point.State->kind == SpawnUse::Kind::kJustEaten) {
+      point.State = {};
+    } else if (point.Present && IsFree(point)) {
       return number;
     }
   }
@@ -173,7 +174,7 @@ bool PlaceItem(State& state, ItemKind kind, int slot, bool initial) {
     if (number) {
       SpawnRec& point = state.SpawnPoints(*number);
       PutAt(item, {point.X, point.Y}, *number);
-      point.State = std::to_string(slot);
+      point.State = SpawnUse::TakenBy(slot);
       return true;
     }
   }

@@ -66,11 +66,11 @@ void CheckHardUserWalls(const Blaster& blaster) {
 }  // namespace
 
 bool IsDestructible(const UserItemRec& item) {
-  return item.Type == "wall" || item.Type == "ani_wall";
+  return item.Type == UserItemType::kWall || item.Type == UserItemType::kMovingWall;
 }
 
 bool IsIndestructible(const UserItemRec& item) {
-  return item.Type == "wall_no_tnt" || item.Type == "ani_wall_no_tnt";
+  return item.Type == UserItemType::kHardWall || item.Type == UserItemType::kMovingHardWall;
 }
 
 void WallCheck(Game& game) {

@@ -32,7 +32,7 @@ void Effects::snPlaySound(std::string_view path, int snake) {
   const SndBuffer& buffer = buffers_(held ? *held : SnLoadSound(full));
   if (!buffer.effect) return;
   audio_.Play(*buffer.effect);
-  if (state_.witness.enabled) state_.witness.sounds.push_back({buffer.path, snake});
+  if (state_.output.enabled) state_.output.sounds.push_back({buffer.path, snake});
   if (state_.shell.DebugMode) MessagePrint(state_, "snPlaySound: " + buffer.path);
 }
 

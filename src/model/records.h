@@ -6,6 +6,7 @@
 #include "model/saturating.h"
 #include "model/table.h"
 #include "model/words.h"
+#include "model/written.h"
 
 namespace coilrun {
 
@@ -90,7 +91,7 @@ struct SpawnRec {
   Int16 X;
   Int16 Y;
   bool Present = false;
-  std::string State;  ///< "" free, a slot number: taken, "new": its item was just eaten
+  Written<SpawnUse> State;
 };
 
 /// A wall with a picture of the level's own.
@@ -99,7 +100,7 @@ struct UserItemRec {
   Int16 Y;
   bool Present = false;
   std::string Name;  ///< the map letter in upper case, then the picture's name
-  std::string Type;
+  Written<UserItemType> Type;
 
   Point At() const { return {X, Y}; }
 };

@@ -32,7 +32,7 @@ void RestoreCollectedItems(State& state) {
 
 void ResetSpawnPoints(State& state) {
   for (int point = 1; point <= state.numSpawnPoints; ++point) {
-    if (state.SpawnPoints(point).Present) state.SpawnPoints(point).State.clear();
+    if (state.SpawnPoints(point).Present) state.SpawnPoints(point).State = {};
   }
 }
 

@@ -13,9 +13,12 @@
 #include "model/table.h"
 #include "model/timers.h"
 #include "model/words.h"
+#include "model/written.h"
 
 namespace coilrun {
 
+/// The number of the player's own snake.
+inline constexpr int kPlayer = 1;
 inline constexpr int kMaxSnakes = 16;
 inline constexpr int kMaxItems = 300;
 inline constexpr int kMaxWalls = 681;
@@ -23,6 +26,8 @@ inline constexpr int kMaxSpawnPoints = 300;
 inline constexpr int kMaxUserItems = 681;
 inline constexpr int kMaxModelPacks = 100;
 inline constexpr int kHiScores = 10;
+/// Characters of a name that is typed or stored.
+inline constexpr std::size_t kLongestName = 14;
 inline constexpr int kMsgLines = 5;
 
 /// What the shell is doing.
@@ -63,7 +68,7 @@ struct ModeState {
   bool LevelSwitchGiven = false;
   std::string StartLevelName;
   std::string StartLevelPath;
-  std::string KeyboardLayout = "US";
+  Written<coilrun::KeyboardLayout> KeyboardLayout;
   bool GodMode = false;
   bool NoClip = false;
   bool TimePass = false;
@@ -196,8 +201,8 @@ struct DrawnText {
   std::string Font;
 };
 
-/// What a trace tells of the screen and the speakers. Kept only while `enabled`.
-struct WitnessState {
+/// What went to the screen and the speakers, for the trace. Kept only while `enabled`.
+struct OutputLog {
   bool enabled = false;
   std::vector<DrawnText> drawing;  ///< since the last full-screen fill or background
   std::vector<DrawnText> shown;    ///< on the picture last flipped
@@ -217,7 +222,7 @@ struct State {
   SettingsState settings;
   Timers timers;
   MusicState music;
-  WitnessState witness;
+  OutputLog output;
   MoreState more;
   Table<SteeringKeys, kMaxPeople> Keys{};
   Table<Person, kMaxPeople> People;

@@ -27,8 +27,8 @@ struct Timers {
   Timer ScrollNext;              ///< next character of the credits ticker
   Table<Timer, 16, 0> iWait;     ///< step of snake k + 1
   Timer ResetSpeed;              ///< end of a speed change
-  Int16 AnimFrame = 1;           ///< 1 to 45
-  Int16 AnimPhase;               ///< 0 to 4
+  Int16 AnimFrame = 1;           ///< 1 to `kAnimationFrames`
+  Int16 AnimPhase;               ///< below `kAnimationPhases`
   std::int64_t now = 0;          ///< microseconds since the process started
   std::int64_t frameLength = 0;  ///< microseconds between the last two flips
 

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 
+#include "model/numbers.h"
+
 namespace coilrun {
 namespace {
 
@@ -14,6 +16,12 @@ constexpr std::array<string_view, 8> kWallWords = {"", "v", "h", "v_l", "v_r", "
 constexpr std::array<string_view, 3> kModeWords = {"", "DM", "NDM"};
 constexpr std::array<string_view, 4> kActionWords = {"", "cycle", "-", "+"};
 constexpr std::array<string_view, 4> kTargetWords = {"", "PlayerName", "Cheat", "ScoreName"};
+constexpr std::array<string_view, 2> kLayoutWords = {"US", "DE"};
+constexpr std::array<string_view, 7> kUserItemWords = {
+    "", "wall_", "wall", "wall_no_tnt", "ani_wall_", "ani_wall", "ani_wall_no_tnt"};
+constexpr string_view kJustEaten = "new";
+constexpr string_view kStillStart = "wall";
+constexpr string_view kMovingStart = "ani_wall";
 
 template <typename Enum, std::size_t N>
 std::optional<Enum> Find(const std::array<string_view, N>& words, string_view word) {
@@ -39,6 +47,16 @@ std::string_view Word(MenuAction action) {
 std::string_view Word(InputTarget target) {
   return kTargetWords.at(static_cast<std::size_t>(target));
 }
+std::string_view Word(KeyboardLayout layout) {
+  return kLayoutWords.at(static_cast<std::size_t>(layout));
+}
+std::string_view Word(UserItemType type) {
+  return kUserItemWords.at(static_cast<std::size_t>(type));
+}
+std::string Word(SpawnUse use) {
+  if (use.kind == SpawnUse::Kind::kTaken) return std::to_string(use.slot);
+  return std::string{use.kind == SpawnUse::Kind::kJustEaten ? kJustEaten : ""};
+}
 
 template <>
 std::optional<Dir> FromWord<Dir>(std::string_view word) {
@@ -59,6 +77,26 @@ std::optional<MenuAction> FromWord<MenuAction>(std::string_view word) {
 template <>
 std::optional<InputTarget> FromWord<InputTarget>(std::string_view word) {
   return Find<InputTarget>(kTargetWords, word);
+}
+
+template <>
+KeyboardLayout Meaning<KeyboardLayout>(std::string_view text) {
+  return Find<KeyboardLayout>(kLayoutWords, text).value_or(KeyboardLayout::kUs);
+}
+
+template <>
+UserItemType Meaning<UserItemType>(std::string_view text) {
+  if (const auto type = Find<UserItemType>(kUserItemWords, text)) return *type;
+  if (text.starts_with(kStillStart)) return UserItemType::kPicture;
+  return text.starts_with(kMovingStart) ? UserItemType::kMovingPicture : UserItemType::kNone;
+}
+
+template <>
+SpawnUse Meaning<SpawnUse>(std::string_view text) {
+  if (text == kJustEaten) return {SpawnUse::Kind::kJustEaten, {}};
+  const double number = LeadingNumber(text);
+  if (number == 0) return {};
+  return SpawnUse::TakenBy(ToInt16(number).value_or(0));
 }
 
 }  // namespace coilrun

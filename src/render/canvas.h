@@ -7,11 +7,11 @@
 
 namespace coilrun {
 
-/// The back buffer that everything is drawn on, the primary that is shown, and the witness of the
+/// The back buffer that everything is drawn on, the primary that is shown, and the log of the
 /// texts on them.
 class Canvas {
  public:
-  explicit Canvas(WitnessState& witness) : witness_(witness) {}
+  explicit Canvas(OutputLog& log) : log_(log) {}
 
   /// The back buffer: BltPic.
   Surface& Back() { return back_; }
@@ -31,7 +31,7 @@ class Canvas {
   void FlipBuffers();
 
  private:
-  WitnessState& witness_;
+  OutputLog& log_;
   Surface back_;
   Surface primary_;
 };

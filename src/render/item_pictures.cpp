@@ -35,10 +35,6 @@ Rect FramePart(ItemKind kind) {
   return kind == ItemKind::kPower ? kPowerPart : kFramePart;
 }
 
-std::string FrameFile(std::string_view folder, int frame) {
-  return std::string{folder} + std::to_string(frame) + ".bmp";
-}
-
 ItemPicture FramePicture(ItemKind kind, std::string_view folder, int frame) {
   return {NamedPicture{FrameFile(folder, frame), FrameKey(kind)}, FramePart(kind)};
 }
@@ -80,14 +76,14 @@ ItemPicture& ItemPictures::Icon(ItemKind kind, bool animated) {
 }
 
 NamedPicture* ItemPictures::UserItem(const UserItemRec& item, int frame) {
-  if (item.Type.starts_with("wall")) {
+  if (IsStill(item.Type)) {
     auto found = stillWalls_.find(item.Name);
     if (found == stillWalls_.end()) {
       found = stillWalls_.emplace(item.Name, NamedPicture{item.Name, KeyMode::kBlack}).first;
     }
     return &found->second;
   }
-  if (!item.Type.starts_with("ani_wall")) return nullptr;
+  if (!IsMoving(item.Type)) return nullptr;
   auto found = movingWalls_.find(item.Name);
   if (found == movingWalls_.end()) {
     found = movingWalls_.emplace(item.Name, UserFrames{}).first;

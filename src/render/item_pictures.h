@@ -5,12 +5,11 @@
 #include <string_view>
 #include <unordered_map>
 
+#include "model/animation.h"
 #include "model/state.h"
 #include "render/picture_store.h"
 
 namespace coilrun {
-
-inline constexpr int kAnimationFrames = 45;
 
 /// The folder of a kind's frames below gfx, with a backslash at its end, and their colour key.
 std::string_view FrameFolder(ItemKind kind);
@@ -28,7 +27,7 @@ class ItemPictures {
   explicit ItemPictures(PictureStore& store);
 
   ItemPicture& Flat(ItemKind kind) { return flat_[static_cast<std::size_t>(kind)]; }
-  /// `frame` is 1 to 45; beyond, the nearest.
+  /// `frame` is 1 to `kAnimationFrames`; beyond, the nearest.
   ItemPicture& Frame(ItemKind kind, int frame);
   /// The icon of a kind on the item panel and the level screen.
   ItemPicture& Icon(ItemKind kind, bool animated);

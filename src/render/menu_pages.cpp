@@ -140,7 +140,7 @@ void MenuPages::DrawModelPreview() {
   constexpr std::array kPieces = {ModelPiece::kHeadLeft, ModelPiece::kLeft, ModelPiece::kTailLeft};
   int x = 300;
   for (const ModelPiece piece : kPieces) {
-    canvas_.Back().Blit(models_(state_.Snakes(1).Model, piece), x, 390);
+    canvas_.Back().Blit(models_(state_.Snakes(kPlayer).Model, piece), x, 390);
     x += kCell;
   }
 }

@@ -32,7 +32,7 @@ constexpr std::array<OptionsLine, kOptionsLines> kLines = {{
      "Speed rate: ",
      [](const State& s) { return NumberText(s.settings.SpeedRate.Own()); }},
     {{55, 390}, "Show FPS Counter: ", [](const State& s) { return YesNo(s.shell.ShowFPS); }},
-    {{50, 415}, "Player Name: ", [](const State& s) { return s.Snakes(1).Name; }},
+    {{50, 415}, "Player Name: ", [](const State& s) { return s.Snakes(kPlayer).Name; }},
     {{255, 220}, "3D Items: ", [](const State& s) { return YesNo(s.settings.AnimatedItems); }},
     {{255, 260}, "Effects enabled: ", [](const State& s) { return YesNo(s.settings.SndEnabled); }},
     {{255, 280},
@@ -42,7 +42,9 @@ constexpr std::array<OptionsLine, kOptionsLines> kLines = {{
     {{255, 320},
      "Music Volume: ",
      [](const State& s) { return NumberText(s.settings.MusicVolume); }},
-    {{300, 415}, "Player Model: ", [](const State& s) { return ModelText(s, s.Snakes(1).Model); }},
+    {{300, 415},
+     "Player Model: ",
+     [](const State& s) { return ModelText(s, s.Snakes(kPlayer).Model); }},
 }};
 
 const OptionsLine& Line(int number) {
@@ -60,7 +62,8 @@ std::string OptionsLineText(const State& state, int line) {
 }
 
 double ShownGlobalSpeed(const State& state) {
-  return state.level.SetsPeriod ? state.settings.GlobalSpeed : int{state.Snakes(1).BaseInterval};
+  return state.level.SetsPeriod ? state.settings.GlobalSpeed
+                                : int{state.Snakes(kPlayer).BaseInterval};
 }
 
 std::string ModelText(const State& state, int model) {

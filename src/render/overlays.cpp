@@ -101,7 +101,7 @@ void Overlays::DrawMessageFeed() {
 }
 
 void Overlays::DrawStatusLine() {
-  const SnakeRec& player = state_.Snakes(1);
+  const SnakeRec& player = state_.Snakes(kPlayer);
   const std::string score = "Score: " + to_string(player.Score) + "  ";
   const std::string level = " Level: " + state_.level.lvlName;
   if (Multiplayer(state_)) {
@@ -123,7 +123,7 @@ void Overlays::DrawItemPanel() {
     const bool tall = animated || place.kind == ItemKind::kTnt;
     items_.Draw(canvas_.Back(), items_.Icon(place.kind, animated), place.iconX,
                 tall ? kAnimatedIconY : kFlatIconY);
-    text_.DrawBmpText("=" + to_string(Counter(state_.Snakes(1), place.kind)), place.counterX,
+    text_.DrawBmpText("=" + to_string(Counter(state_.Snakes(kPlayer), place.kind)), place.counterX,
                       kCounterY, 4);
   }
 }
@@ -189,7 +189,7 @@ void Overlays::DrawMatchGoal() {
 
 void Overlays::DrawLevelGoals() {
   constexpr std::array<int, 4> kGoalY = {203, 223, 243, 263};
-  const SnakeRec& player = state_.Snakes(1);
+  const SnakeRec& player = state_.Snakes(kPlayer);
   std::array<int, 4> textX{};
   text_.DrawBmpTextCentred("To complete this level you need:", 185, 4);
   for (std::size_t i = 0; i < kColoured.size(); ++i) {

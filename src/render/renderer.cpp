@@ -31,7 +31,7 @@ constexpr std::array<std::string_view, 5> kFlatItems = {
 Renderer::Renderer(State& state, RendererPorts ports)
     : state_(state),
       pump_(ports.pump),
-      canvas_(state.witness),
+      canvas_(state.output),
       panel_(state, canvas_, ports.textFace, ports.pump, ports.files),
       loader_(state, ports.files, ports.messageBox, panel_, std::move(ports.giveUp)),
       standard_(state, ports.files, loader_),

@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "model/animation.h"
 #include "model/state.h"
 #include "script/trace.h"
 
@@ -318,13 +319,13 @@ class FieldTable {
                    [&](int number) { visit_.TimerFields(steps(number)); });
       visit_.Object("ResetSpeed", [&] { visit_.TimerFields(timers.ResetSpeed); });
       visit_.Object("ScrollNext", [&] { visit_.TimerFields(timers.ScrollNext); });
-      visit_.Field("AnimFrame", timers.AnimFrame, Range{1, kAnimFrames});
-      visit_.Field("AnimPhase", timers.AnimPhase, Range{0, kLastAnimPhase});
+      visit_.Field("AnimFrame", timers.AnimFrame, Range{1, kAnimationFrames});
+      visit_.Field("AnimPhase", timers.AnimPhase, Range{0, kAnimationPhases - 1});
     });
   }
 
   void VisitSounds() const {
-    const auto& sounds = state_.witness.sounds;
+    const auto& sounds = state_.output.sounds;
     visit_.ReadOnlyArray("Sounds", 1, static_cast<int>(sounds.size()), [&](int number) {
       const SoundStart& sound = sounds[static_cast<std::size_t>(number - 1)];
       visit_.ReadOnly("Path", sound.Path);
@@ -343,7 +344,7 @@ class FieldTable {
   }
 
   void VisitDrawn() const {
-    const auto& drawn = state_.witness.shown;
+    const auto& drawn = state_.output.shown;
     visit_.ReadOnlyArray("Drawn", 1, static_cast<int>(drawn.size()), [&](int number) {
       const DrawnText& text = drawn[static_cast<std::size_t>(number - 1)];
       visit_.ReadOnly("Text", text.Text);
@@ -426,8 +427,6 @@ class FieldTable {
   static constexpr int kBitmapFonts = 6;
   static constexpr int kFullVolume = 100;
   static constexpr int kSilence = -2500;  ///< hundredths of a decibel
-  static constexpr int kAnimFrames = 45;
-  static constexpr int kLastAnimPhase = 4;
 
   Visitor& visit_;
   StateType& state_;

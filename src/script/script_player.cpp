@@ -115,7 +115,7 @@ void ScriptPlayer::WriteState(const ScriptStep& step) {
                            length > 0 ? std::fmod(position, length) : position};
   stage_.trace << TraceLine(stage_.state, moment) << std::endl;
   if (!stage_.trace) Fail(step, "the trace cannot be written");
-  stage_.state.witness.sounds.clear();
+  stage_.state.output.sounds.clear();
 }
 
 void ScriptPlayer::Fail(const ScriptStep& step, std::string_view what) {

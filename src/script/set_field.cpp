@@ -63,6 +63,12 @@ Problem Assign(RivalList& target, std::string_view value) {
   return std::nullopt;
 }
 
+template <typename T>
+Problem Assign(Written<T>& target, std::string_view value) {
+  target = Written<T>{FromUtf8(value)};
+  return std::nullopt;
+}
+
 template <typename Enum>
 requires std::is_enum_v<Enum> Problem Assign(Enum& target, std::string_view value) {
   const auto word = FromWord<Enum>(WithoutBlanksAround(value));

@@ -104,6 +104,10 @@ class JsonLine {
     for (const char character : ToUtf8(text)) AppendCharacter(character);
     json_ += '"';
   }
+  template <typename T>
+  void Append(const Written<T>& value) {
+    Append(value.Text());
+  }
   template <typename Enum>
   requires std::is_enum_v<Enum>
   void Append(Enum value) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "game/match_limit.h"
 #include "model/numbers.h"
 #include "ports/terminate.h"
 
@@ -9,8 +10,6 @@ namespace coilrun {
 namespace {
 
 constexpr int kSmallestLimit = 2;
-constexpr int kDefaultLength = 30;
-constexpr int kDefaultFrags = 120;
 
 }  // namespace
 
@@ -50,8 +49,7 @@ void CommandLine::SetCommand(std::string_view arg) {
 void CommandLine::SetLimit(std::string_view value) {
   const auto limit = ToInt16(LeadingNumber(value));
   if (!limit) return;
-  const int fallback = state_.mode.HuntingMode ? kDefaultLength : kDefaultFrags;
-  state_.mode.MatchLimit = *limit < kSmallestLimit ? fallback : *limit;
+  state_.mode.MatchLimit = *limit < kSmallestLimit ? UsualMatchLimit(state_.mode) : *limit;
 }
 
 void CommandLine::SetAiSnakes(std::string_view value) {
@@ -63,7 +61,7 @@ void CommandLine::SetAiSnakes(std::string_view value) {
 }
 
 void CommandLine::SetKeyboardLayout(std::string_view value) {
-  state_.mode.KeyboardLayout = value == "DE" ? "DE" : "US";
+  state_.mode.KeyboardLayout = Meaning<coilrun::KeyboardLayout>(value);
 }
 
 void CommandLine::SetStartLevel(std::string_view value) {

@@ -15,7 +15,6 @@
 namespace coilrun {
 namespace {
 
-constexpr std::size_t kLongestName = 14;
 constexpr int kNameLine = 8;
 
 bool OnOptionsPage(const State& state) {

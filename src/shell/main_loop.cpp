@@ -2,6 +2,7 @@
 
 #include "content/ai_snakes.h"
 #include "game/collision.h"
+#include "game/game_over.h"
 #include "game/movement.h"
 #include "game/shown_snakes.h"
 #include "game/steps.h"
@@ -12,8 +13,6 @@
 
 namespace coilrun {
 namespace {
-
-constexpr int kStartLives = 3;
 
 void OpenDevices(Shell& shell) {
   State& state = shell.state;
@@ -43,9 +42,8 @@ void ResetPlayer(State& state) {
   SnakeRec& player = state.Snakes(kPlayer);
   player.Length = 1;
   player.Score = 0;
-  player.Lives = kStartLives;
-  player.X = player.StartX;
-  player.Y = player.StartY;
+  player.Lives = kLivesOfAGame;
+  PutOnStart(player);
   player.Dir = Dir::kNone;
   player.NextDir = Dir::kNone;
 }

@@ -46,7 +46,7 @@ void ApplyGlobalSpeed(Shell& shell) {
   if (state.level.SetsPeriod) return;
   SnakeRec& player = state.Snakes(kPlayer);
   player.BaseInterval = RoundToInt(speed);
-  state.timers.SetInterval(state.timers.iWait(0), player.BaseInterval);
+  state.timers.SetInterval(StepTimer(state, kPlayer), player.BaseInterval);
 }
 
 void ApplyPlayerName(Shell& shell) {

@@ -31,11 +31,11 @@ char UpperCase(char character) {
 
 }  // namespace
 
-std::string ScanToChar(int scanCode, bool shift, std::string_view layout) {
+std::string ScanToChar(int scanCode, bool shift, KeyboardLayout layout) {
   if (scanCode == kSpaceBar) return " ";
   if (scanCode < 0 || scanCode > kSpaceBar) return {};
   const auto key = static_cast<std::size_t>(scanCode);
-  const bool german = layout == "DE";
+  const bool german = layout == KeyboardLayout::kDe;
   char character = (german ? kDeBase : kUsBase)[key];
   if (character == ' ') return {};
   if (shift) {

@@ -12,7 +12,6 @@ namespace {
 constexpr std::string_view kTweak = "Tweak";
 constexpr std::string_view kOptions = "Options";
 constexpr std::string_view kHiScore = "HiScore";
-constexpr std::size_t kLongestName = 14;
 
 double DefaultScore(int place) {
   return 10000 - (place - 1) * 1000.0;
@@ -97,8 +96,8 @@ void LoadOptions(State& state, const SettingsStore& store) {
   options.IntegerWithin("MusicVolume", settings.MusicVolume, 30, 0, 100);
   options.Boolean("NoCleanUp", settings.NoCleanUp, false);
   options.Boolean("NewInstall", settings.NewInstall, true);
-  options.Name("Player Name", state.Snakes(1).Name);
-  options.IntegerWithin("Player Color", state.Snakes(1).Model, kDefaultModel, 0, Int16::kMax);
+  options.Name("Player Name", state.Snakes(kPlayer).Name);
+  options.IntegerWithin("Player Color", state.Snakes(kPlayer).Model, kDefaultModel, 0, Int16::kMax);
 }
 
 /// Calls `take` with section, key and text of every value that is saved, in order.
@@ -123,9 +122,9 @@ void EachOption(const State& state, Take take) {
   take(kOptions, "gSpeed", NumberText(settings.GlobalSpeed));
   take(kOptions, "Show FPS", BooleanText(state.shell.ShowFPS));
   take(kOptions, "AnimatedItems", BooleanText(settings.AnimatedItems));
-  take(kOptions, "Player Name", state.Snakes(1).Name);
+  take(kOptions, "Player Name", state.Snakes(kPlayer).Name);
   take(kOptions, "SndEnabled", BooleanText(settings.SndEnabled));
-  take(kOptions, "Player Color", NumberText(state.Snakes(1).Model));
+  take(kOptions, "Player Color", NumberText(state.Snakes(kPlayer).Model));
   take(kOptions, "KiSndEnabled", BooleanText(settings.KiSndEnabled));
   take(kOptions, "MusicEnabled", BooleanText(settings.MusicEnabled));
   take(kOptions, "MusicVolume", NumberText(settings.MusicVolume));

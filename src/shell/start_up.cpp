@@ -58,7 +58,7 @@ void StartUp(Shell& shell, std::string_view version, const std::string& commandL
   state.shell.DisplayReady = false;
   ConsolePrint(state, "\r\n");
   state.feed.introCaption = "Coilrun v. " + std::string{version} + " loading...";
-  state.mode.KeyboardLayout = "US";
+  state.mode.KeyboardLayout = KeyboardLayout::kUs;
   shell.game.host.LoadSettings();
   LoadMoreSettings(state, shell.ports.settings);
   CheckLevelFolder(shell);

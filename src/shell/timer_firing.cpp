@@ -3,16 +3,16 @@
 #include <algorithm>
 #include <functional>
 
+#include "model/animation.h"
+
 namespace coilrun {
 namespace {
 
-constexpr int kAnimFrames = 45;
-constexpr int kAnimPhases = 5;
 constexpr int kTimers = 21;
 
 void AdvanceAnimations(Timers& timers) {
-  timers.AnimFrame = timers.AnimFrame >= kAnimFrames ? 1 : timers.AnimFrame + 1;
-  timers.AnimPhase = timers.AnimPhase + 1 >= kAnimPhases ? 0 : timers.AnimPhase + 1;
+  timers.AnimFrame = timers.AnimFrame >= kAnimationFrames ? 1 : timers.AnimFrame + 1;
+  timers.AnimPhase = timers.AnimPhase + 1 >= kAnimationPhases ? 0 : timers.AnimPhase + 1;
 }
 
 void RestartPeriod(Timer& timer, std::int64_t now) {

@@ -227,9 +227,9 @@ TEST_F(LoadLevelTest, GivesUserItemsTheirPictures) {
   ASSERT_TRUE(Loaded());
   EXPECT_TRUE(state.level.UserItemsUsed);
   EXPECT_EQ(state.UserItems(2).Name, "crate.bmp");
-  EXPECT_EQ(state.UserItems(2).Type, "wall");
+  EXPECT_EQ(state.UserItems(2).Type.Text(), "wall");
   EXPECT_TRUE(state.UserItems(2).Present);
-  EXPECT_EQ(state.UserItems(3).Type, "");
+  EXPECT_EQ(state.UserItems(3).Type.Text(), "");
   EXPECT_EQ(stage.host.preloaded.size(), 46U) << "one picture, then 45 frames, each once";
   EXPECT_EQ(stage.host.percents.back(), 100);
 }

@@ -56,7 +56,7 @@ TEST(KillSnake, SinglePlayCostsALifeAndRestartsTheClock) {
   hidden.Collected = true;
   field.state.level.HideCollected = true;
   field.state.numSpawnPoints = 1;
-  field.state.SpawnPoints(1) = {200, 200, true, "new"};
+  field.state.SpawnPoints(1) = {200, 200, true, Written<SpawnUse>{"new"}};
   field.host.onYield = [&] {
     const ShellState& shell = field.state.shell;
     EXPECT_EQ(shell.lvlTime, field.host.yields == 1) << "the clock stands during the wait";
@@ -80,7 +80,7 @@ TEST(KillSnake, SinglePlayCostsALifeAndRestartsTheClock) {
   field.host.onYield = nullptr;
   Kill(field, 1);
   EXPECT_FALSE(hidden.Present) << "only a level that hides items has some to give back";
-  EXPECT_EQ(field.state.SpawnPoints(1).State, "");
+  EXPECT_EQ(field.state.SpawnPoints(1).State.Text(), "");
   EXPECT_EQ(field.state.CenterLines(0).Text, "");
 }
 

@@ -99,11 +99,11 @@ TEST(EatItems, YellowFreesItsSpawnPointAndBringsTheFirstRed) {
     ItemRec& red = field.Item(ItemKind::kRed, {500, 400});
     red.Present = false;
     field.state.numSpawnPoints = 1;
-    field.state.SpawnPoints(1) = {200, 200, true, "1"};
+    field.state.SpawnPoints(1) = {200, 200, true, SpawnUse::TakenBy(1)};
     field.state.timers.ResetSpeed.Enabled = speedChanged;
     EatItems(field.game, kPlayer);
     EXPECT_EQ(red.Present, !speedChanged);
-    EXPECT_EQ(field.state.SpawnPoints(1).State, "") << "released, and passed over once";
+    EXPECT_EQ(field.state.SpawnPoints(1).State.Text(), "") << "released, and passed over once";
     EXPECT_NE(field.state.Items(ItemKind::kYellow)(1).At(), kHead);
   }
 }

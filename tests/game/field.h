@@ -111,10 +111,11 @@ struct Field {
       state.Walls(state.numWalls) = {at.x, at.y, true, WallKind::kS};
     }
   }
-  UserItemRec& UserWall(Point at, std::string type, bool present = true) {
+  UserItemRec& UserWall(Point at, std::string_view type, bool present = true) {
     state.level.UserItemsUsed = true;
     ++state.numUserItems;
-    return state.UserItems(state.numUserItems) = {at.x, at.y, present, "bricks", std::move(type)};
+    return state.UserItems(state.numUserItems) = {at.x, at.y, present, "bricks",
+                                                  Written<UserItemType>{type}};
   }
   int StandingWalls() const {
     return static_cast<int>(std::count_if(state.Walls.begin(), state.Walls.end(),

@@ -15,7 +15,7 @@ namespace {
 void AddSpawnPoints(State& state, const std::vector<std::string>& states) {
   for (const std::string& text : states) {
     const int number = ++state.numSpawnPoints;
-    state.SpawnPoints(number) = {100 * number, 50, text != "gone", text};
+    state.SpawnPoints(number) = {100 * number, 50, text != "gone", Written<SpawnUse>{text}};
   }
 }
 
@@ -43,7 +43,7 @@ TEST(PlaceItem, SpreadsTheFirstItemsOverAllSpawnPoints) {
     }
     used.insert(item.SpawnPoint);
     EXPECT_EQ(item.At(), (Point{100 * item.SpawnPoint, 50}));
-    EXPECT_EQ(state.SpawnPoints(item.SpawnPoint).State, std::to_string(slot));
+    EXPECT_EQ(state.SpawnPoints(item.SpawnPoint).State.Text(), std::to_string(slot));
   }
   EXPECT_EQ(used, (std::set<int>{1, 2, 3}));
 }
@@ -62,13 +62,13 @@ TEST(PlaceItem, TakesTheFirstFreePointDuringPlayAndPassesNewOnesOnce) {
     EXPECT_TRUE(PlaceItem(state, ItemKind::kBlack, 7, false));
     EXPECT_EQ(state.Items(ItemKind::kBlack)(7).SpawnPoint, placedOn) << before[0] << before[1];
     for (std::size_t i = 0; i < after.size(); ++i) {
-      EXPECT_EQ(state.SpawnPoints(static_cast<int>(i) + 1).State, after[i])
+      EXPECT_EQ(state.SpawnPoints(static_cast<int>(i) + 1).State.Text(), after[i])
           << before[0] << before[1];
     }
   }
 }
 
-TEST(PlaceItem, DrawsFreeSpotsInsideTheField) {
+TEST(PlaceItem, RollsFreeSpotsInsideTheField) {
   State state;
   ItemRec& item = state.Items(ItemKind::kTnt)(1);
   std::set<int> columns;
@@ -118,7 +118,7 @@ TEST(IsSpotTaken, KeepsADistanceFromEachKindOfThing) {
   const auto userItem = [](bool present) -> Put {
     return [=](State& state) {
       state.numUserItems = 1;
-      state.UserItems(1) = {100, 100, present, "x.bmp", "wall"};
+      state.UserItems(1) = {100, 100, present, "x.bmp", UserItemType::kWall};
     };
   };
   const auto cell = [](int snake, int number) -> Put {

@@ -98,5 +98,24 @@ TEST(Saturating, StopsAtTheEndsOfItsRange) {
   EXPECT_EQ(score, -32768);
 }
 
+TEST(UserItemTypes, AreWallsByExactWordsAndPicturesByBeginnings) {
+  using enum UserItemType;
+  const std::pair<const char*, UserItemType> rows[] = {{"", kNone},
+                                                       {"ice", kNone},
+                                                       {"Wall", kNone},
+                                                       {"wall", kWall},
+                                                       {"wall_no_tnt", kHardWall},
+                                                       {"wallpaper", kPicture},
+                                                       {"wall ", kPicture},
+                                                       {"ani_wall", kMovingWall},
+                                                       {"ani_wall_no_tnt", kMovingHardWall},
+                                                       {"ani_wall_no_tnt2", kMovingPicture}};
+  for (const auto& [text, type] : rows) {
+    const Written<UserItemType> written{text};
+    EXPECT_EQ(UserItemType{written}, type) << text;
+    EXPECT_EQ(written.Text(), text);
+  }
+}
+
 }  // namespace
 }  // namespace coilrun

@@ -15,7 +15,7 @@ const std::string kGfx = ".\\gfx\\";
 
 /// A store with its loader on a stage.
 struct StoreStage : Stage {
-  Canvas canvas{state.witness};
+  Canvas canvas{state.output};
   IntroPanel panel{state, canvas, textFace, pump, files};
   PictureLoader loader{state, files, box, panel, [this] { ++givenUp; }};
   PictureStore store{state, loader};

@@ -149,12 +149,12 @@ TEST_F(PlayFieldTest, UserItemsShowStillAndMovingWallsByTheirType) {
   Put("smoke\\3", 20, 20, 0x838383);  // the grey of animations: transparent
   state.timers.AnimFrame = 3;
   state.numUserItems = kMaxUserItems + 1;
-  state.UserItems(1) = {20, 20, true, "crate.bmp", "wall_no_tnt"};
-  state.UserItems(2) = {40, 20, true, "fan", "ani_wall"};
-  state.UserItems(3) = {60, 20, true, "crate.bmp", "ani"};
-  state.UserItems(4) = {80, 20, false, "crate.bmp", "wall"};
-  state.UserItems(5) = {100, 20, true, "smoke", "ani_wall"};
-  state.UserItems(6) = {120, 20, true, "fan", "ani"};
+  state.UserItems(1) = {20, 20, true, "crate.bmp", UserItemType::kHardWall};
+  state.UserItems(2) = {40, 20, true, "fan", UserItemType::kMovingWall};
+  state.UserItems(3) = {60, 20, true, "crate.bmp", UserItemType::kNone};
+  state.UserItems(4) = {80, 20, false, "crate.bmp", UserItemType::kPicture};
+  state.UserItems(5) = {100, 20, true, "smoke", UserItemType::kMovingPicture};
+  state.UserItems(6) = {120, 20, true, "fan", UserItemType::kNone};
 
   field.DrawUserItems();
 

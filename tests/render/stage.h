@@ -72,7 +72,7 @@ class AnsweringBox : public MessageBox {
 /// A renderer over a state made in code, with files in memory.
 struct Stage {
   Stage() {
-    state.witness.enabled = true;
+    state.output.enabled = true;
     state.shell.DisplayReady = true;
   }
 
@@ -98,7 +98,7 @@ struct Stage {
   /// The texts on the back buffer as "X,Y font text".
   std::vector<std::string> Drawn() const {
     std::vector<std::string> texts;
-    for (const DrawnText& text : state.witness.drawing) {
+    for (const DrawnText& text : state.output.drawing) {
       texts.push_back(std::to_string(text.X) + "," + std::to_string(text.Y) + " " + text.Font +
                       " " + text.Text);
     }

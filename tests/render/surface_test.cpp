@@ -130,9 +130,9 @@ TEST(TextOverPixels, IsMixedByCoverageAndCutAtTheEdges) {
 }
 
 TEST(Flip, SwapsTheBuffersAndShowsTheTexts) {
-  WitnessState witness;
-  witness.enabled = true;
-  Canvas canvas(witness);
+  OutputLog log;
+  log.enabled = true;
+  Canvas canvas(log);
   canvas.FillBack({1, 2, 3});
   canvas.RecordText("now", 4, 5, "1");
   canvas.RecordText("", 4, 5, "1");
@@ -141,10 +141,10 @@ TEST(Flip, SwapsTheBuffersAndShowsTheTexts) {
 
   EXPECT_EQ(std::as_const(canvas).Primary().Pixels()[0], 0x010203U);
   EXPECT_EQ(canvas.Back().Pixels()[0], 0U);
-  ASSERT_EQ(witness.shown.size(), 1U);
-  EXPECT_EQ(witness.shown[0].Text, "now");
+  ASSERT_EQ(log.shown.size(), 1U);
+  EXPECT_EQ(log.shown[0].Text, "now");
   canvas.DrawWhole({});
-  EXPECT_TRUE(witness.drawing.empty());
+  EXPECT_TRUE(log.drawing.empty());
 }
 
 }  // namespace

@@ -25,8 +25,8 @@ State FullState() {
   state.numUserItems = 2;
   state.LastModel = 1;
   state.Snakes(1).Length = 3;
-  state.witness.shown = {{"1", 2, 3, "4"}, {"Name", -5, 6, "Balloon"}};
-  state.witness.sounds = {{".\\snd\\eat.wav", 1}};
+  state.output.shown = {{"1", 2, 3, "4"}, {"Name", -5, 6, "Balloon"}};
+  state.output.sounds = {{".\\snd\\eat.wav", 1}};
   return state;
 }
 

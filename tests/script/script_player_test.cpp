@@ -90,7 +90,7 @@ TEST(ScriptPlayer, FailuresNameTheLineAndLeaveWithTwo) {
 
 TEST(ScriptPlayer, SetsFieldsBeforeALaterStateOfTheSameTime) {
   Stage stage("1 set Snakes.1.TNT 2\n1 state");
-  stage.state.witness.sounds = {{".\\snd\\a.wav", 1}};
+  stage.state.output.sounds = {{".\\snd\\a.wav", 1}};
   stage.music.position = 65;
   stage.music.duration = 30;
   stage.YieldAt(1);
@@ -98,7 +98,7 @@ TEST(ScriptPlayer, SetsFieldsBeforeALaterStateOfTheSameTime) {
   EXPECT_THAT(stage.trace.str(), HasSubstr("\"TNT\":2,"));
   EXPECT_THAT(stage.trace.str(), HasSubstr("\"Position\":5}"));
   EXPECT_TRUE(stage.trace.str().ends_with("}\n"));
-  EXPECT_THAT(stage.state.witness.sounds, IsEmpty());
+  EXPECT_THAT(stage.state.output.sounds, IsEmpty());
 }
 
 TEST(ScriptPlayer, AnswersBoxesInOrderWhenDue) {

@@ -52,7 +52,7 @@ struct Switches {
     if (mode.MatchLimit != 0) text << " to " << mode.MatchLimit;
     if (mode.AiSwitchGiven) text << "AI " << mode.AiCount << (mode.AiEnabled ? " on" : " off");
     if (mode.NumSnakes != 1) text << ", snakes " << mode.NumSnakes;
-    if (mode.KeyboardLayout != "US") text << "keys " << mode.KeyboardLayout;
+    if (mode.KeyboardLayout != KeyboardLayout::kUs) text << "keys " << mode.KeyboardLayout.Text();
     if (mode.LevelSwitchGiven) text << "level " << mode.StartLevelPath;
     text << (state.shell.DebugMode ? " debug" : "") << (state.settings.NoCleanUp ? " dirty" : "");
     return text.str();

@@ -21,7 +21,7 @@ TEST(ScanToChar, FollowsBothLayouts) {
       {42, true, "US", ""},     {58, false, "US", ""},     {-1, false, "US", ""},
       {41, false, "US", ""}};
   for (const auto& [code, shift, layout, character] : rows) {
-    EXPECT_EQ(ScanToChar(code, shift, layout), character)
+    EXPECT_EQ(ScanToChar(code, shift, Meaning<KeyboardLayout>(layout)), character)
         << layout << ' ' << code << (shift ? " shifted" : "");
   }
 }

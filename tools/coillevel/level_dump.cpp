@@ -83,7 +83,7 @@ void AddMap(Json& json, const State& state) {
     json["SpawnPoints"].push_back({{"X", int{point.X}},
                                    {"Y", int{point.Y}},
                                    {"Present", point.Present},
-                                   {"State", point.State}});
+                                   {"State", point.State.Text()}});
   }
   json["UserItems"] = Json::array();
   for (int slot = 1; slot <= state.numUserItems; ++slot) {
@@ -92,7 +92,7 @@ void AddMap(Json& json, const State& state) {
                                  {"Y", int{item.Y}},
                                  {"Present", item.Present},
                                  {"Name", ToUtf8(item.Name)},
-                                 {"Type", ToUtf8(item.Type)}});
+                                 {"Type", ToUtf8(item.Type.Text())}});
   }
 }
 

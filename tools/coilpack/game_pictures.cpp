@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <set>
 
-#include "content/user_items.h"
 #include "kit/game_picture.h"
+#include "model/animation.h"
 #include "ports/windows_1252.h"
 
 namespace coilrun {
