@@ -5,8 +5,6 @@
 namespace coilrun {
 namespace {
 
-constexpr std::size_t kLongestName = 14;
-
 std::string& NameOfEntry(State& state) {
   return state.HiScore(state.menus.EnteredPlace).Name;
 }
