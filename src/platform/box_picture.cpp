@@ -14,6 +14,7 @@ constexpr std::uint32_t kBright = 0xF0F0F0;
 constexpr int kPanelWidth = 560;
 constexpr int kMargin = 24;
 constexpr int kLineHeight = 20;
+constexpr std::size_t kMostLines = 20;
 
 const FontStyle kTitleStyle{"Arial", 12, true};
 const FontStyle kTextStyle{"Arial", 11, false};
@@ -51,11 +52,14 @@ void DrawLine(BoxPicture& picture, TextFace& face, const Line& line, int x, int 
   }
 }
 
-/// Appends a paragraph as lines that fit the panel; a word that does not is cut.
+/// Appends a paragraph as lines that fit the panel, as far as it has room; a word that does not fit
+/// is cut.
 void Wrap(std::vector<Line>& lines, TextFace& face, std::string paragraph) {
   constexpr int kWidth = kPanelWidth - 2 * kMargin;
-  while (true) {
-    std::size_t fits = paragraph.size();
+  // No line of the narrowest letters is longer; measuring more would take long for a long text.
+  constexpr std::size_t kLongestLine = 200;
+  while (lines.size() < kMostLines) {
+    std::size_t fits = std::min(paragraph.size(), kLongestLine);
     while (fits > 1 && face.Measure(kTextStyle, paragraph.substr(0, fits)) > kWidth) {
       const std::size_t blank = paragraph.rfind(' ', fits - 1);
       fits = blank == std::string::npos || blank == 0 ? fits - 1 : blank;
@@ -68,14 +72,12 @@ void Wrap(std::vector<Line>& lines, TextFace& face, std::string paragraph) {
 
 std::vector<Line> LinesOf(TextFace& face, const std::string& title, const std::string& text,
                           bool isQuestion) {
-  constexpr std::size_t kMostLines = 20;
   std::vector<Line> lines{{title, kTitleStyle, kEdge}, {"", kTextStyle, kBright}};
-  for (std::size_t start = 0; start <= text.size();) {
+  for (std::size_t start = 0; start <= text.size() && lines.size() < kMostLines;) {
     const std::size_t end = std::min(text.find('\n', start), text.size());
     Wrap(lines, face, text.substr(start, end - start));
     start = end + 1;
   }
-  if (lines.size() > kMostLines) lines.erase(lines.begin() + kMostLines, lines.end());
   lines.push_back({"", kTextStyle, kBright});
   lines.push_back({isQuestion ? "Enter: Yes      Escape: No" : "Enter: OK", kTitleStyle, kEdge});
   return lines;
