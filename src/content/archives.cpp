@@ -141,7 +141,7 @@ class Unpacking {
   bool ExtractOrSkip(Walk& walk, const std::string& name) const {
     State& state = context_.state;
     const std::string target = folder_ + name;
-    const bool extract = state.settings.NewInstall || !context_.files.IsWritten(target);
+    const bool extract = state.settings.NewInstall || !context_.files.IsLasting(target);
     const bool done = extract ? walk.Extract(target) : walk.Skip();
     DebugPrint(state,
                (extract ? "SnUnextractFile: processing " : "SnUnextractFile: skipping ") + name);
@@ -157,38 +157,34 @@ class Unpacking {
   UnpackResult result_;
 };
 
-/// The program and what came with it: no list can be right that names one of these.
+/// The program and what came with it, the player's settings, and what other running games unpack
+/// into folders of their own here: no list can be right that names one of these.
 bool IsShipped(std::string_view shortName) {
-  constexpr std::array<std::string_view, 4> kFolders = {".\\lvl\\", ".\\models\\", ".\\music\\",
-                                                        ".\\fonts\\"};
-  constexpr std::array<std::string_view, 5> kFiles = {
-      ".\\coilrun", ".\\coilrun.png", ".\\intro.bmp", ".\\defaults.ini", ".\\ai_names.lst"};
+  constexpr std::array<std::string_view, 5> kBeginnings = {".\\coilrun", ".\\lvl\\", ".\\models\\",
+                                                           ".\\music\\", ".\\fonts\\"};
+  constexpr std::array<std::string_view, 3> kFiles = {".\\intro.bmp", ".\\defaults.ini",
+                                                      ".\\ai_names.lst"};
   return shortName.ends_with(".snr") || shortName.ends_with(".smp") ||
-         std::any_of(kFolders.begin(), kFolders.end(),
-                     [&](std::string_view folder) { return shortName.starts_with(folder); }) ||
+         std::any_of(kBeginnings.begin(), kBeginnings.end(),
+                     [&](std::string_view start) { return shortName.starts_with(start); }) ||
          std::find(kFiles.begin(), kFiles.end(), shortName) != kFiles.end();
-}
-
-void DeleteListed(Files& files, std::string_view list) {
-  LineReader lines(list);
-  while (const auto line = lines.Next()) {
-    const std::string path{*line};
-    if (!IsShipped(files.ShortName(path))) files.Delete(path);
-  }
 }
 
 /// Deletes the files that the lists name, then the lists; tells whether a list went away.
 bool DeleteListedFiles(Files& files) {
   const std::string folder{kProgramFolder};
-  const auto lists = files.List(folder, kListSuffix);
-  if (!lists) return false;
-  for (const std::string& name : *lists) {
-    const auto list = files.Read(folder + "\\" + name);
-    if (list) DeleteListed(files, TextOf(*list));
+  std::vector<std::string> lists =
+      files.List(folder, kListSuffix).value_or(std::vector<std::string>{});
+  for (std::string& name : lists) name.insert(0, folder + "\\");
+  std::vector<std::string> listed;
+  for (const std::string& path : lists) {
+    const Bytes list = files.Read(path).value_or(Bytes{});
+    LineReader lines(TextOf(list));
+    while (const auto line = lines.Next()) listed.emplace_back(*line);
   }
-  bool deleted = false;
-  for (const std::string& name : *lists) deleted |= files.Delete(folder + "\\" + name);
-  return deleted;
+  std::erase_if(listed, [&](const std::string& path) { return IsShipped(files.ShortName(path)); });
+  files.DeleteAll(listed);
+  return files.DeleteAll(lists) > 0;
 }
 
 }  // namespace

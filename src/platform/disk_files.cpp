@@ -1,9 +1,8 @@
 #include "platform/disk_files.h"
 
 #include <algorithm>
-#include <cerrno>
-#include <map>
-#include <system_error>
+#include <functional>
+#include <utility>
 
 #include "ports/windows_1252.h"
 
@@ -37,11 +36,13 @@ bool EndsIn(const std::string& folded, const std::string& foldedSuffix) {
 }  // namespace
 
 DiskFiles::DiskFiles(const std::filesystem::path& program,
-                     const std::optional<std::filesystem::path>& user, Probe probe)
-    : program_(program), programWritable_(probe(program)) {
-  if (!user) return;
-  user_.emplace(*user);
-  if (user_->Text() == program_.Text()) user_.reset();
+                     const std::optional<std::filesystem::path>& user, Probe probe,
+                     ProgramFolder use)
+    : program_(program),
+      programTaken_(use == ProgramFolder::kTaken),
+      programWritable_(!programTaken_ && probe(program)) {
+  std::error_code error;
+  if (user && !std::filesystem::equivalent(program, *user, error)) user_.emplace(*user);
 }
 
 std::optional<GamePath> DiskFiles::Parse(const std::string& path) const {
@@ -59,9 +60,12 @@ std::vector<const RealRoot*> DiskFiles::ReadOrder() const {
 }
 
 std::vector<const RealRoot*> DiskFiles::WriteOrder() const {
-  if (!user_) return {&program_};
-  if (!programWritable_) return {&*user_};
-  return {&program_, &*user_};
+  std::vector<const RealRoot*> order;
+  // Without a place of the player's an attempt at the program folder tells why it cannot be
+  // written.
+  if (programWritable_ || (!user_ && !programTaken_)) order.push_back(&program_);
+  if (user_) order.push_back(&*user_);
+  return order;
 }
 
 bool DiskFiles::Exists(const std::string& path) const {
@@ -103,16 +107,28 @@ std::optional<std::vector<std::string>> DiskFiles::List(const std::string& folde
 bool DiskFiles::Write(const std::string& path, std::span<const std::uint8_t> contents) {
   const auto parsed = Parse(path);
   if (!parsed) return false;
-  errno = EPERM;
+  auto problem = std::make_error_code(std::errc::device_or_resource_busy);
+  bool first = true;
   for (const RealRoot* root : WriteOrder()) {
-    if (!root->Write(*parsed, contents)) continue;
-    // An older copy among the player's own files would hide what was just written.
-    if (user_ && root == &program_) user_->Delete(*parsed);
-    return true;
+    const std::error_code error = root->Write(*parsed, contents);
+    if (!error) {
+      // An older copy among the player's own files would hide what was just written.
+      if (user_ && root == &program_) user_->Delete({&*parsed, 1});
+      writeProblems_.erase(ShortName(path));
+      return true;
+    }
+    if (std::exchange(first, false)) problem = error;
   }
-  const std::string reason = std::generic_category().message(errno);
-  writeProblem_ = std::to_string(errno) + ": " + FromUtf8(reason) + " (writing '" + path + "')";
+  writeProblems_[ShortName(path)] = problem;
   return false;
+}
+
+std::string DiskFiles::WriteProblem(const std::string& path) const {
+  const auto problem = writeProblems_.find(ShortName(path));
+  if (problem == writeProblems_.end()) return {};
+  const auto& [name, error] = *problem;
+  return std::to_string(error.value()) + ": " + FromUtf8(error.message()) + " (writing '" + path +
+         "')";
 }
 
 bool DiskFiles::MakeFolder(const std::string& path) {
@@ -123,17 +139,23 @@ bool DiskFiles::MakeFolder(const std::string& path) {
                      [&](const RealRoot* root) { return root->MakeFolder(*parsed); });
 }
 
-bool DiskFiles::Delete(const std::string& path) {
-  const auto parsed = Parse(path);
-  if (!parsed) return false;
-  bool deleted = false;
-  for (const RealRoot* root : WriteOrder()) deleted = root->Delete(*parsed) || deleted;
-  return deleted;
+std::size_t DiskFiles::DeleteAll(std::span<const std::string> paths) {
+  std::vector<GamePath> parsed;
+  for (const std::string& path : paths)
+    if (auto inside = Parse(path)) parsed.push_back(*std::move(inside));
+  std::vector<bool> deleted(parsed.size());
+  for (const RealRoot* root : WriteOrder()) {
+    const std::vector<bool> here = root->Delete(parsed);
+    std::transform(deleted.begin(), deleted.end(), here.begin(), deleted.begin(),
+                   std::logical_or<>());
+  }
+  return static_cast<std::size_t>(std::count(deleted.begin(), deleted.end(), true));
 }
 
-bool DiskFiles::IsWritten(const std::string& path) const {
+bool DiskFiles::IsLasting(const std::string& path) const {
+  if (!programTaken_) return Exists(path);
   const auto parsed = Parse(path);
-  return parsed && WriteOrder().front()->Find(*parsed);
+  return parsed && user_ && user_->Find(*parsed);
 }
 
 std::string DiskFiles::ShortName(const std::string& path) const {
@@ -147,7 +169,8 @@ std::string DiskFiles::ShortName(const std::string& path) const {
 std::string DiskFiles::FullName(const std::string& path) const {
   const auto parsed = Parse(path);
   if (!parsed) return path;
-  std::string full = WriteOrder().front()->Text();
+  const auto roots = WriteOrder();
+  std::string full = roots.empty() ? program_.Text() : roots.front()->Text();
   for (const std::string& name : *parsed) full += "\\" + name;
   return full;
 }

@@ -1,12 +1,17 @@
 #pragma once
 
+#include <map>
 #include <optional>
+#include <system_error>
 #include <vector>
 
 #include "platform/real_root.h"
 #include "ports/files.h"
 
 namespace coilrun {
+
+/// Whether the program folder is this run's to write to, or another running game unpacks into it.
+enum class ProgramFolder { kOurs, kTaken };
 
 /// The game's files in two real folders: the program folder, and the player's own that covers it
 /// where the program folder cannot be written.
@@ -16,7 +21,7 @@ class DiskFiles : public Files {
   /// `probe` tells whether the program folder can be written.
   using Probe = bool (*)(const std::filesystem::path& folder);
   DiskFiles(const std::filesystem::path& program, const std::optional<std::filesystem::path>& user,
-            Probe probe = CanWriteInto);
+            Probe probe = CanWriteInto, ProgramFolder use = ProgramFolder::kOurs);
 
   bool Exists(const std::string& path) const override;
   std::optional<Bytes> Read(const std::string& path) const override;
@@ -24,11 +29,11 @@ class DiskFiles : public Files {
                                                std::string_view suffix) const override;
   bool Write(const std::string& path, std::span<const std::uint8_t> contents) override;
   bool MakeFolder(const std::string& path) override;
-  bool Delete(const std::string& path) override;
+  std::size_t DeleteAll(std::span<const std::string> paths) override;
   std::string FullName(const std::string& path) const override;
   std::string ShortName(const std::string& path) const override;
-  bool IsWritten(const std::string& path) const override;
-  std::string WriteProblem() const override { return writeProblem_; }
+  bool IsLasting(const std::string& path) const override;
+  std::string WriteProblem(const std::string& path) const override;
 
  private:
   std::optional<GamePath> Parse(const std::string& path) const;
@@ -37,8 +42,10 @@ class DiskFiles : public Files {
 
   RealRoot program_;
   std::optional<RealRoot> user_;
+  bool programTaken_;
   bool programWritable_;
-  std::string writeProblem_;
+  /// By short name.
+  std::map<std::string, std::error_code> writeProblems_;
 };
 
 }  // namespace coilrun

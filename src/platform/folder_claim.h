@@ -14,13 +14,17 @@ class FolderClaim {
   explicit FolderClaim(const std::filesystem::path& folder);
 
   bool IsHeld() const { return folder_.IsOpen(); }
+  /// Another running game has the folder, or has just removed it. False as well for a folder that
+  /// nobody can claim: a missing one, or one on a disk that knows no locks.
+  bool IsTaken() const { return taken_; }
 
  private:
   FileHandle folder_;
+  bool taken_ = false;
 };
 
 /// A fresh folder below `parent`, claimed and removed with all that is in it at the end of its
-/// scope. Those that killed games have left there are removed at the start.
+/// scope.
 class OwnFolder {
  public:
   explicit OwnFolder(const std::filesystem::path& parent);
@@ -35,5 +39,8 @@ class OwnFolder {
   std::filesystem::path path_;
   FolderClaim claim_;
 };
+
+/// Removes the folders of their own that killed games have left below `parent`.
+void RemoveLeftFolders(const std::filesystem::path& parent);
 
 }  // namespace coilrun

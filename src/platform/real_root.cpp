@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
-#include <system_error>
+#include <map>
+#include <unordered_map>
+#include <unordered_set>
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -73,9 +75,14 @@ std::optional<fs::path> FindIn(const fs::path& folder, const std::string& name) 
   return std::nullopt;
 }
 
-/// What a file is called until it is whole.
+/// What a file is called until it is whole: also a name of the greatest length needs one.
 fs::path UnfinishedName(const fs::path& place) {
-  return place.native() + ".unfinished";
+  constexpr std::size_t kLongest = 240;
+  return place.parent_path() / (place.filename().native().substr(0, kLongest) + ".unfinished");
+}
+
+std::error_code LastError() {
+  return {errno, std::generic_category()};
 }
 
 }  // namespace
@@ -131,49 +138,114 @@ std::optional<std::vector<std::string>> RealRoot::List(const GamePath& path) con
   return names;
 }
 
-std::optional<fs::path> RealRoot::MakeFolders(const GamePath& path) const {
-  std::error_code error;
+std::optional<fs::path> RealRoot::MakeFolders(const GamePath& path, std::error_code& error) const {
   fs::create_directories(folder_, error);
+  if (error) return std::nullopt;
   fs::path place = folder_;
   for (const std::string& name : path) {
     place = FindIn(place, name).value_or(place / ToUtf8(name));
     if (!IsThere(place)) fs::create_directory(place, error);
-    if (!Holds(place)) return std::nullopt;
+    if (!error && !Holds(place)) error = std::make_error_code(std::errc::operation_not_permitted);
+    if (error) return std::nullopt;
   }
-  if (!IsFolder(place)) return std::nullopt;
+  if (!IsFolder(place)) error = std::make_error_code(std::errc::not_a_directory);
+  if (error) return std::nullopt;
   return place;
 }
 
 bool RealRoot::MakeFolder(const GamePath& path) const {
-  return MakeFolders(path).has_value();
+  std::error_code error;
+  return MakeFolders(path, error).has_value();
 }
 
-bool RealRoot::Write(const GamePath& path, std::span<const std::uint8_t> contents) const {
-  if (path.empty()) return false;
-  const auto folder = MakeFolders(GamePath(path.begin(), path.end() - 1));
-  if (!folder) return false;
+std::error_code RealRoot::Write(const GamePath& path,
+                                std::span<const std::uint8_t> contents) const {
+  if (path.empty()) return std::make_error_code(std::errc::is_a_directory);
+  std::error_code error;
+  const auto folder = MakeFolders(GamePath(path.begin(), path.end() - 1), error);
+  if (!folder) return error;
   const fs::path place = FindIn(*folder, path.back()).value_or(*folder / ToUtf8(path.back()));
-  if (IsThere(place) && !(Holds(place) && IsFile(place))) return false;
+  if (IsThere(place) && !(Holds(place) && IsFile(place)))
+    return std::make_error_code(std::errc::operation_not_permitted);
   // A new file in place of the old one: never half a file, nor a write through a link elsewhere.
   const fs::path unfinished = UnfinishedName(place);
   unlink(unfinished.c_str());
   FileHandle file(unfinished, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW);
-  if (!file.IsOpen()) return false;
+  if (!file.IsOpen()) return LastError();
   const bool written = file.WriteAll(std::as_bytes(contents)) && file.Close() &&
                        rename(unfinished.c_str(), place.c_str()) == 0;
-  if (written) return true;
-  const int reason = errno;
+  if (written) return {};
+  error = LastError();
   unlink(unfinished.c_str());
-  errno = reason;
-  return false;
+  return error;
 }
 
-bool RealRoot::Delete(const GamePath& path) const {
-  const auto place = Find(path);
-  if (place) return IsFile(*place) && unlink(place->c_str()) == 0;
-  // What a kill in the middle of a write has left.
-  const auto folder = path.empty() ? std::nullopt : Find(GamePath(path.begin(), path.end() - 1));
-  return folder && unlink(UnfinishedName(*folder / ToUtf8(path.back())).c_str()) == 0;
+/// Deletes files of one root, and knows the names in the folders that it has seen.
+class RealRoot::Deletion {
+ public:
+  explicit Deletion(const RealRoot& root) : root_(root) {}
+
+  bool Delete(const GamePath& path) {
+    if (path.empty()) return false;
+    fs::path folder = root_.folder_;
+    for (auto part = path.begin(); part != path.end() - 1; ++part) {
+      const auto found = NamesOf(folder).Find(*part);
+      if (!found) return false;
+      folder /= *found;
+    }
+    const FolderNames& names = NamesOf(folder);
+    const auto found = names.Find(path.back());
+    const fs::path place = folder / found.value_or(ToUtf8(path.back()));
+    const bool deleted = found && IsFile(place) && root_.Holds(place) && unlink(place.c_str()) == 0;
+    // What a kill in the middle of a write has left.
+    const fs::path unfinished = UnfinishedName(place);
+    const bool cleared = names.Has(unfinished.filename()) && unlink(unfinished.c_str()) == 0;
+    return deleted || cleared;
+  }
+
+ private:
+  class FolderNames {
+   public:
+    explicit FolderNames(const std::vector<fs::path>& names) {
+      for (const fs::path& name : names) {
+        names_.insert(name.native());
+        const auto text = GameName(name);
+        if (text) byFolded_.emplace(FoldCase(*text), name.native());
+      }
+    }
+    bool Has(const std::string& name) const { return names_.contains(name); }
+    /// As `FindIn` finds them.
+    std::optional<std::string> Find(const std::string& gameName) const {
+      std::string same = ToUtf8(gameName);
+      if (Has(same)) return same;
+      const auto found = byFolded_.find(FoldCase(gameName));
+      if (found == byFolded_.end()) return std::nullopt;
+      return found->second;
+    }
+
+   private:
+    std::unordered_set<std::string> names_;
+    std::unordered_map<std::string, std::string> byFolded_;
+  };
+
+  const FolderNames& NamesOf(const fs::path& folder) {
+    const auto known = folders_.find(folder);
+    if (known != folders_.end()) return known->second;
+    const bool inside = root_.Holds(folder);
+    const auto names = inside ? NamesIn(folder) : std::vector<fs::path>{};
+    return folders_.emplace(folder, FolderNames(names)).first->second;
+  }
+
+  const RealRoot& root_;
+  std::map<fs::path, FolderNames> folders_;
+};
+
+std::vector<bool> RealRoot::Delete(std::span<const GamePath> paths) const {
+  Deletion deletion(*this);
+  std::vector<bool> deleted;
+  deleted.reserve(paths.size());
+  for (const GamePath& path : paths) deleted.push_back(deletion.Delete(path));
+  return deleted;
 }
 
 }  // namespace coilrun

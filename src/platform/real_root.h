@@ -4,6 +4,7 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <system_error>
 #include <vector>
 
 #include "platform/game_path.h"
@@ -28,13 +29,19 @@ class RealRoot {
   std::optional<Bytes> Read(const GamePath& path, std::uintmax_t limit) const;
   /// Names of the files in a folder, in game text; nothing when there is no such folder.
   std::optional<std::vector<std::string>> List(const GamePath& path) const;
-  bool Write(const GamePath& path, std::span<const std::uint8_t> contents) const;
+  /// Writes the whole file or, with an error, nothing.
+  std::error_code Write(const GamePath& path, std::span<const std::uint8_t> contents) const;
   bool MakeFolder(const GamePath& path) const;
-  bool Delete(const GamePath& path) const;
+  /// Deletes files, and what a kill has left of writing them; tells of each whether something went.
+  /// Reads every folder once, however many files it holds.
+  std::vector<bool> Delete(std::span<const GamePath> paths) const;
 
  private:
+  class Deletion;
+
   bool Holds(const std::filesystem::path& place) const;
-  std::optional<std::filesystem::path> MakeFolders(const GamePath& path) const;
+  std::optional<std::filesystem::path> MakeFolders(const GamePath& path,
+                                                   std::error_code& error) const;
 
   std::filesystem::path folder_;
   std::string text_;

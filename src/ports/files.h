@@ -30,17 +30,18 @@ class Files {
   /// without regard to case, from both roots; nothing when the folder does not exist.
   virtual std::optional<std::vector<std::string>> List(const std::string& folder,
                                                        std::string_view suffix) const = 0;
-  /// True for a file or a folder that lies where this run writes.
-  virtual bool IsWritten(const std::string& path) const = 0;
+  /// True for a file or a folder that no other running game may take away.
+  virtual bool IsLasting(const std::string& path) const = 0;
   /// Writes the whole file, making the folders that it needs: it is there whole or not at all.
   /// False when that is not possible or not allowed.
   virtual bool Write(const std::string& path, std::span<const std::uint8_t> contents) = 0;
   virtual bool MakeFolder(const std::string& path) = 0;
-  /// Deletes a file, never a folder.
-  virtual bool Delete(const std::string& path) = 0;
-  /// Number and name of the error of the last write that failed, and what it should have written;
-  /// "" when none has.
-  virtual std::string WriteProblem() const = 0;
+  /// Deletes files, never folders; the number of those that were there and are gone.
+  virtual std::size_t DeleteAll(std::span<const std::string> paths) = 0;
+  bool Delete(const std::string& path) { return DeleteAll({&path, 1}) == 1; }
+  /// Number and name of the error for which the last attempt to write the file failed; "" when it
+  /// was written or nobody tried.
+  virtual std::string WriteProblem(const std::string& path) const = 0;
   /// The full name, on this machine, under which `Write` puts this path.
   virtual std::string FullName(const std::string& path) const = 0;
   /// The path beginning with `kProgramFolder`, with backslashes and in lower case; "" when it leads

@@ -46,7 +46,7 @@ Picture PictureLoader::Load(const std::string& path, std::optional<PictureSize> 
 
 void PictureLoader::TellMissing(const std::string& path, bool modelPicture) {
   if (modelPicture) return ConsolePrint(state_, "Could not load model " + path);
-  const std::string problem = files_.WriteProblem();
+  const std::string problem = files_.WriteProblem(path);
   const std::string reason = problem.empty() ? "53: File not found" : problem;
   const BoxAnswer answer =
       messageBox_.Show("module 'DD_CreateSurfFromFile': >file/IO error<",

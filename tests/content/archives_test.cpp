@@ -104,17 +104,21 @@ TEST_F(ArchivesTest, CleansUpWhatAnyRunListed) {
   EXPECT_EQ(stage.host.stored, (std::map<std::string, std::string>{{"NewInstall", "False"}}));
 }
 
-TEST_F(ArchivesTest, NoListDeletesWhatCameWithTheProgram) {
-  std::string list;
-  for (const char* const shipped :
-       {".\\coilrun", ".\\Defaults.ini", ".\\gfx.snr", ".\\gfx\\own.SNR", ".\\models\\bee.smp",
-        ".\\lvl\\lvl1.dat", ".\\MUSIC\\a.ogg", ".\\AI_Names.lst"}) {
-    stage.files.Put(shipped, "shipped");
-    list += std::string{shipped} + "\r\n/game" + (shipped + 1) + "\r\n";
+TEST_F(ArchivesTest, NoListDeletesWhatNoArchiveBrought) {
+  const std::vector<std::string> kept = {
+      ".\\coilrun",       ".\\CoilRun.ini",  ".\\Defaults.ini", ".\\gfx.snr",
+      ".\\gfx\\own.SNR",  ".\\intro.bmp",    ".\\AI_Names.lst", ".\\models\\bee.smp",
+      ".\\lvl\\lvl1.dat", ".\\MUSIC\\a.ogg", ".\\fonts\\a.ttf", ".\\coilrun-run-a\\gfx\\a.bmp"};
+  std::string list = ".\\gfx\\intro.bmp\r\n";
+  for (const std::string& path : kept) {
+    stage.files.Put(path, "kept");
+    list += path + "\r\n/game" + path.substr(1) + "\r\n";
   }
+  stage.files.Put(".\\gfx\\intro.bmp", "unpacked");
   stage.files.Put(".\\cleanup-evil.snc", list);
   CleanUpFiles(stage.context);
-  EXPECT_EQ(stage.files.contents.size(), 8U);
+  EXPECT_EQ(stage.files.contents.size(), kept.size());
+  for (const std::string& path : kept) EXPECT_TRUE(stage.files.Exists(path)) << path;
 }
 
 TEST_F(ArchivesTest, AnArchiveInAFolderHasItsListBesideTheOthers) {

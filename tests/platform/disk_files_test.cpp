@@ -1,7 +1,12 @@
 #include "platform/disk_files.h"
 
+#include <csignal>
+#include <ctime>
+#include <optional>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 
 #include "platform/support.h"
@@ -168,22 +173,122 @@ TEST_F(DiskFilesTest, TheProbeDecidesWhereWritesGoAndAFailedWriteFallsBack) {
 }
 
 TEST_F(DiskFilesTest, AnUnfinishedFileIsNoFileAndGoesWithItsName) {
-  Put(program_ / "gfx" / "a.bmp.unfinished", "half");
+  const std::string longest(255, 'n');
   DiskFiles files = ProgramOnly();
-  EXPECT_FALSE(files.Exists(".\\gfx\\a.bmp"));
-  EXPECT_TRUE(files.Write(".\\gfx\\a.bmp", ToBytes("whole")));
-  EXPECT_THAT(AllBelow(program_ / "gfx"), ElementsAre("a.bmp"));
-  Put(program_ / "gfx" / "b.bmp.unfinished", "half");
-  EXPECT_TRUE(files.Delete(".\\gfx\\b.bmp"));
-  EXPECT_THAT(AllBelow(program_ / "gfx"), ElementsAre("a.bmp"));
+  for (const std::string& name : {std::string("a.bmp"), longest}) {
+    const fs::path unfinished = program_ / (name.substr(0, 240) + ".unfinished");
+    const std::string path = ".\\" + name;
+    Put(unfinished, "half");
+    EXPECT_FALSE(files.Exists(path));
+    EXPECT_TRUE(files.Write(path, ToBytes("whole")));
+    EXPECT_EQ(ReadText(files, path), "whole");
+    EXPECT_FALSE(fs::exists(unfinished)) << name;
+    for (const bool withWholeOne : {true, false}) {
+      Put(unfinished, "half");
+      EXPECT_EQ(files.Exists(path), withWholeOne);
+      EXPECT_TRUE(files.Delete(path));
+      EXPECT_THAT(AllBelow(program_), ElementsAre());
+    }
+  }
 }
 
-TEST_F(DiskFilesTest, TellsWhatCouldNotBeWrittenAndWhy) {
-  const ReadOnlyFolder program(program_);
+/// While it lives, no file of this process can grow beyond a few bytes, as on a full disk.
+class NearlyFullDisk {
+ public:
+  explicit NearlyFullDisk(rlim_t size) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
+    getrlimit(RLIMIT_FSIZE, &before_);
+    const rlimit small{size, before_.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &small);
+  }
+  ~NearlyFullDisk() {
+    setrlimit(RLIMIT_FSIZE, &before_);
+    std::signal(SIGXFSZ, handler_);
+  }
+  NearlyFullDisk(const NearlyFullDisk&) = delete;
+  NearlyFullDisk& operator=(const NearlyFullDisk&) = delete;
+
+ private:
+  void (*handler_)(int);
+  rlimit before_{};
+};
+
+TEST_F(DiskFilesTest, AWriteThatBreaksOffLeavesEverythingAsItWas) {
+  Put(program_ / "a.bmp", "old picture");
   DiskFiles files = ProgramOnly();
-  EXPECT_EQ(files.WriteProblem(), "");
-  EXPECT_FALSE(files.Write(".\\a.bmp", {}));
-  EXPECT_EQ(files.WriteProblem(), "13: Permission denied (writing '.\\a.bmp')");
+  {
+    const NearlyFullDisk disk(4);
+    EXPECT_FALSE(files.Write(".\\a.bmp", ToBytes("new picture")));
+    EXPECT_FALSE(files.Write(".\\b.bmp", ToBytes("new picture")));
+  }
+  EXPECT_EQ(files.WriteProblem(".\\b.bmp"), "27: File too large (writing '.\\b.bmp')");
+  EXPECT_THAT(AllBelow(program_), ElementsAre("a.bmp"));
+  EXPECT_EQ(Contents(program_ / "a.bmp"), "old picture");
+}
+
+TEST_F(DiskFilesTest, TellsOfEachFileWhyItCouldNotBeWritten) {
+  Put(program_ / "folder" / "a.bmp");
+  Put(program_ / "file");
+  std::optional<ReadOnlyFolder> readOnly(program_);
+  DiskFiles files = ProgramOnly();
+  const std::pair<std::string, std::string> cases[] = {
+      {".\\a.bmp", "13: Permission denied (writing '.\\a.bmp')"},
+      {".\\new\\a.bmp", "13: Permission denied (writing '.\\new\\a.bmp')"},
+      {".\\file\\a.bmp", "20: Not a directory (writing '.\\file\\a.bmp')"},
+      {".\\folder", "1: Operation not permitted (writing '.\\folder')"},
+  };
+  for (const auto& [path, problem] : cases) {
+    EXPECT_EQ(files.WriteProblem(path), "");
+    EXPECT_FALSE(files.Write(path, {}));
+    EXPECT_EQ(files.WriteProblem(path), problem);
+  }
+  DiskFiles missing(program_ / "none", std::nullopt);
+  EXPECT_FALSE(missing.Write(".\\gfx\\a.bmp", {}));
+  EXPECT_THAT(missing.WriteProblem(".\\gfx\\a.bmp"), testing::StartsWith("13: "));
+  readOnly.reset();
+  EXPECT_TRUE(files.Write(".\\A.bmp", {}));
+  EXPECT_EQ(files.WriteProblem(".\\a.bmp"), "");
+  EXPECT_NE(files.WriteProblem(".\\new\\a.bmp"), "");
+}
+
+TEST_F(DiskFilesTest, WhatAnotherGameHasIsReadButNeitherWrittenNorDeletedNorCountedOn) {
+  Put(program_ / "gfx" / "a.bmp", "another game's");
+  DiskFiles files(program_, user_, CanWriteInto, ProgramFolder::kTaken);
+  EXPECT_EQ(ReadText(files, ".\\gfx\\a.bmp"), "another game's");
+  EXPECT_FALSE(files.IsLasting(".\\gfx\\a.bmp"));
+  EXPECT_FALSE(files.Delete(".\\gfx\\a.bmp"));
+  EXPECT_TRUE(files.Write(".\\gfx\\a.bmp", ToBytes("mine")));
+  EXPECT_TRUE(files.IsLasting(".\\gfx\\a.bmp"));
+  EXPECT_EQ(Contents(program_ / "gfx" / "a.bmp"), "another game's");
+  EXPECT_EQ(ReadText(files, ".\\gfx\\a.bmp"), "mine");
+
+  DiskFiles nowhere(program_, std::nullopt, CanWriteInto, ProgramFolder::kTaken);
+  EXPECT_FALSE(nowhere.Write(".\\gfx\\a.bmp", {}));
+  EXPECT_NE(nowhere.WriteProblem(".\\gfx\\a.bmp"), "");
+  EXPECT_EQ(nowhere.FullName(".\\x.bmp"), program_.string() + "\\x.bmp");
+}
+
+TEST_F(DiskFilesTest, PicturesThatLieInAReadOnlyProgramFolderNeedNoUnpacking) {
+  Put(program_ / "gfx" / "a.bmp");
+  EXPECT_TRUE(Both(NeverWritable).IsLasting(".\\GFX\\a.bmp"));
+  EXPECT_FALSE(Both(NeverWritable).IsLasting(".\\gfx\\b.bmp"));
+}
+
+TEST_F(DiskFilesTest, DeletingManyFilesAtOnceLooksIntoEachFolderOnce) {
+  constexpr int kFiles = 3000;
+  std::vector<std::string> paths = {".\\..\\outside\\a.bmp", ".\\gfx", ".\\none\\a.bmp", "."};
+  for (int n = 0; n < kFiles; ++n) {
+    const std::string name = std::to_string(n) + ".bmp";
+    Put(program_ / "Gfx" / name);
+    paths.push_back(".\\gfx\\" + std::to_string(n) + ".BMP");
+    paths.push_back(".\\gfx\\missing" + name);
+  }
+  Put(outside_ / "a.bmp");
+  const std::clock_t start = std::clock();
+  EXPECT_EQ(ProgramOnly().DeleteAll(paths), kFiles);
+  // One look a missing name takes ten seconds and more.
+  EXPECT_LT((std::clock() - start) / CLOCKS_PER_SEC, 3);
+  EXPECT_THAT(AllBelow(program_), ElementsAre("Gfx"));
+  EXPECT_TRUE(fs::exists(outside_ / "a.bmp"));
 }
 
 TEST_F(DiskFilesTest, OneFolderMayBeBothRoots) {

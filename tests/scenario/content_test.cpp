@@ -1,12 +1,14 @@
 #include <algorithm>
 #include <array>
 #include <fstream>
+#include <optional>
 #include <set>
 #include <sstream>
 
 #include <gmock/gmock.h>
 #include <png.h>
 
+#include "platform/folder_claim.h"
 #include "platform/rar/rar_writer.h"
 #include "scenario/game_run.h"
 
@@ -141,6 +143,26 @@ TEST_F(ContentTest, AReadOnlyProgramFolderIsPlayedFromThePlayersOwn) {
   EXPECT_EQ(FilesIn(own), std::set<std::string>{"coilrun.ini"});
 }
 
+TEST_F(ContentTest, AGameBesideAnotherPlaysTheSameFromAFolderOfItsOwn) {
+  const GameRun alone = PlayAndKill();
+  const std::set<std::string> others = FilesIn(Data());
+  const fs::path own = folder_.Home() / "user";
+  std::optional<FolderClaim> program(Data());
+  std::optional<FolderClaim> user(own / "data");
+  EXPECT_TRUE(program->IsHeld() && user->IsHeld());
+  const GameRun beside = PlayAndKill();
+  EXPECT_EQ(beside.exitCode, 0) << beside.errors;
+  EXPECT_EQ(beside.states, alone.states);
+  EXPECT_EQ(PlayAndExit().exitCode, 0);
+  EXPECT_EQ(FilesIn(Data()), others) << "the other game's are all there";
+  EXPECT_EQ(FilesIn(own), std::set<std::string>{"coilrun.ini"});
+
+  program.reset();
+  user.reset();
+  PlayAndExit();
+  EXPECT_EQ(FilesIn(Data()), shipped_);
+}
+
 TEST_F(ContentTest, AHostilePackHarmsNothingAndIsNamed) {
   const std::vector<RarSource> entries = {
       {"../lvl/evil.dat", false, 0, BytesOf("x")},
@@ -222,9 +244,10 @@ TEST_F(ContentTest, ALevelBringsUserItemsThatReloadWithTheirOwnKey) {
   for (int n = 1; n <= 45; ++n) {
     entries.push_back({"moving/" + std::to_string(n) + ".bmp", false, 0, StripedBitmap()});
   }
-  WriteFile(Data() / "own.snr", WriteRar(entries, "sn80463").value());
+  fs::create_directory(Data() / "sub");
+  WriteFile(Data() / "sub" / "own.snr", WriteRar(entries, "sn80463").value());
   WriteFile(Data() / "lvl" / "lvl9.dat",
-            BytesOf("\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n   a   b .\r\nRequires= own.snr\r\n"
+            BytesOf("\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n   a   b .\r\nRequires= sub/own.snr\r\n"
                     "let:a wall\r\nset:a still.bmp\r\nlet:b ani_wall_no_tnt\r\nset:b moving\r\n"
                     "numYellow=1\r\nreqYellow=9\r\n"));
   shipped_ = FilesIn(Data());

@@ -47,11 +47,15 @@ class FakeFiles : public Files {
     return true;
   }
   bool MakeFolder(const std::string& /*path*/) override { return true; }
-  bool Delete(const std::string& path) override { return contents.erase(Key(path)) == 1; }
+  std::size_t DeleteAll(std::span<const std::string> paths) override {
+    std::size_t deleted = 0;
+    for (const std::string& path : paths) deleted += contents.erase(Key(path));
+    return deleted;
+  }
   std::string FullName(const std::string& path) const override { return kRoot + path.substr(1); }
   std::string ShortName(const std::string& path) const override { return Key(path); }
-  bool IsWritten(const std::string& path) const override { return Exists(path); }
-  std::string WriteProblem() const override { return {}; }
+  bool IsLasting(const std::string& path) const override { return Exists(path); }
+  std::string WriteProblem(const std::string& /*path*/) const override { return {}; }
 
   std::map<std::string, Bytes> contents;
 

@@ -34,9 +34,9 @@ class OneLevel final : public Files {
     return false;
   }
   bool MakeFolder(const std::string& /*path*/) override { return false; }
-  bool Delete(const std::string& /*path*/) override { return false; }
-  bool IsWritten(const std::string& /*path*/) const override { return false; }
-  std::string WriteProblem() const override { return {}; }
+  std::size_t DeleteAll(std::span<const std::string> /*paths*/) override { return 0; }
+  bool IsLasting(const std::string& /*path*/) const override { return false; }
+  std::string WriteProblem(const std::string& /*path*/) const override { return {}; }
   std::string FullName(const std::string& path) const override { return path; }
   std::string ShortName(const std::string& path) const override { return path; }
 
