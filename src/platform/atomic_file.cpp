@@ -40,7 +40,10 @@ bool Lock(const FileHandle& file) {
   constexpr auto kPause = std::chrono::milliseconds(5);
   const auto end = std::chrono::steady_clock::now() + kPatience;
   while (flock(file.Descriptor(), LOCK_EX | LOCK_NB) != 0) {
-    if (errno != EWOULDBLOCK || std::chrono::steady_clock::now() >= end) return false;
+    if (errno == EINTR) continue;
+    // Where the disk knows no locks, settings that are written unguarded are better than none.
+    if (errno != EWOULDBLOCK) return true;
+    if (std::chrono::steady_clock::now() >= end) return false;
     std::this_thread::sleep_for(kPause);
   }
   return true;
@@ -90,6 +93,7 @@ std::error_code ReplaceFile(const fs::path& file,
   const fs::path canonical = fs::weakly_canonical(file, error);
   const fs::path target = error ? file : canonical;
   fs::create_directories(target.parent_path(), error);
+  if (error) return error;
   const fs::path temporary = target.native() + ".new";
   const FileHandle handle = OpenTemporary(temporary);
   if (!handle.IsOpen()) return LastError();
