@@ -18,7 +18,7 @@ namespace fs = std::filesystem;
 
 /// What a program folder holds before anybody has played in it, but for the names that are drawn
 /// for computer snakes.
-constexpr std::array kShipped = {"gfx.snr", "snd.snr",      "models",       "music",
+constexpr std::array kShipped = {"gfx.snr", "snd.snr",      "models",   "music",
                                  "fonts",   "defaults.ini", "intro.bmp"};
 
 constexpr fs::perms kWriting =
