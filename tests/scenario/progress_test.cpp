@@ -126,7 +126,7 @@ TEST(Progress, TheFourthDeathEndsTheGameAndEntersTheTable) {
   EXPECT_EQ(menus["InMenu"], true);
   EXPECT_EQ(menus["NoGameRunning"], true);
   EXPECT_EQ(menus["ScorePage"], 1);
-  EXPECT_EQ(menus["HiScore"][1]["Score"], 9800) << "with the time bonus";
+  EXPECT_EQ(menus["HiScore"][1]["Score"], 9500);
   EXPECT_EQ(menus["HiScore"][2]["Score"], 8000) << "nothing moves down";
   EXPECT_EQ(menus["Snakes"][0]["Lives"], 3);
   EXPECT_EQ(menus["Snakes"][0]["TotalScore"], 0);
