@@ -4,6 +4,7 @@
 #include <array>
 #include <cstdlib>
 #include <optional>
+#include <span>
 #include <vector>
 
 namespace coilrun {
@@ -40,8 +41,9 @@ template <typename Visit>
 bool AnyKeepOut(const State& state, const Visit& visit) {
   for (std::size_t kind = 0; kind < kItemKeepOut.size(); ++kind) {
     const ItemList& items = state.itemLists.at(kind);
-    for (int slot = 1; slot <= items.Live(); ++slot) {
-      if (items(slot).Present && visit(items(slot).At(), kItemKeepOut.at(kind))) return true;
+    const int keepOut = kItemKeepOut.at(kind);
+    for (const ItemRec& item : std::span(items.slots.begin(), items.slots.begin() + items.Live())) {
+      if (item.Present && visit(item.At(), keepOut)) return true;
     }
   }
   for (const WallRec& wall : state.Walls) {
@@ -58,35 +60,45 @@ bool AnyKeepOut(const State& state, const Visit& visit) {
   return false;
 }
 
+constexpr std::size_t Index(int column, int row) {
+  return static_cast<std::size_t>(row * kSpotColumns + column);
+}
+
+/// A mark for each candidate.
+using SpotMarks = std::array<bool, std::size_t{kSpotColumns} * kSpotRows>;
+
+constexpr SpotMarks OutsideTheField() {
+  SpotMarks marks{};
+  for (int row = 0; row < kSpotRows; ++row) {
+    for (int column = 0; column < kSpotColumns; ++column) {
+      marks.at(Index(column, row)) = !InField(Spot(column, row));
+    }
+  }
+  return marks;
+}
+
 /// The field as candidates: which of them are taken.
 class SpotMap {
  public:
-  explicit SpotMap(const State& state) {
-    for (int row = 0; row < kSpotRows; ++row) {
-      for (int column = 0; column < kSpotColumns; ++column) {
-        if (!InField(Spot(column, row))) Take(column, row);
-      }
-    }
+  explicit SpotMap(const State& state) : taken_(kOutside) {
     AnyKeepOut(state, [this](Point thing, int keepOut) {
       TakeAround(thing, keepOut);
       return false;
     });
   }
 
+  bool IsTaken(int column, int row) const { return taken_.at(Index(column, row)); }
   std::vector<Point> Free() const {
     std::vector<Point> spots;
     for (int row = 0; row < kSpotRows; ++row) {
       for (int column = 0; column < kSpotColumns; ++column) {
-        if (!taken_.at(Index(column, row))) spots.push_back(Spot(column, row));
+        if (!IsTaken(column, row)) spots.push_back(Spot(column, row));
       }
     }
     return spots;
   }
 
  private:
-  static std::size_t Index(int column, int row) {
-    return static_cast<std::size_t>(row * kSpotColumns + column);
-  }
   /// First and last candidate on one axis between two positions.
   static int FirstFrom(int position, int origin) {
     return position <= origin ? 0 : (position - origin + kSpotStep - 1) / kSpotStep;
@@ -106,7 +118,9 @@ class SpotMap {
     }
   }
 
-  std::array<bool, std::size_t{kSpotColumns} * kSpotRows> taken_{};
+  static constexpr SpotMarks kOutside = OutsideTheField();
+
+  SpotMarks taken_;
 };
 
 bool IsFree(const SpawnRec& point) {
@@ -115,6 +129,11 @@ bool IsFree(const SpawnRec& point) {
 
 /// The loader's way: any free point, by lot.
 std::optional<int> DrawSpawnPoint(State& state) {
+  const auto firstPoint = state.SpawnPoints.begin();
+  if (std::none_of(firstPoint, firstPoint + state.numSpawnPoints, IsFree)) {
+    state.Rnd.Skip(kSpawnPointDraws);
+    return std::nullopt;
+  }
   for (int draw = 0; draw < kSpawnPointDraws; ++draw) {
     const int point = state.Rnd.Below(state.numSpawnPoints) + 1;
     if (IsFree(state.SpawnPoints(point))) return point;
@@ -136,13 +155,19 @@ std::optional<int> NextSpawnPoint(State& state) {
   return std::nullopt;
 }
 
+/// Draws spots until one is free, or nothing after all draws. A crowded field is looked at as a
+/// whole once, which costs as much as looking at a few spots.
 std::optional<Point> FindFreeSpot(State& state) {
+  constexpr int kSingleLooks = 2;
+  std::optional<SpotMap> map;
   for (int draw = 0; draw < kSpotDraws; ++draw) {
     const int column = state.Rnd.Below(kSpotColumns);
     const int row = state.Rnd.Below(kSpotRows);
-    if (!IsSpotTaken(state, Spot(column, row))) return Spot(column, row);
+    if (draw == kSingleLooks) map.emplace(state);
+    const bool taken = map ? map->IsTaken(column, row) : IsSpotTaken(state, Spot(column, row));
+    if (!taken) return Spot(column, row);
   }
-  const std::vector<Point> free = FreeSpots(state);
+  const std::vector<Point> free = map->Free();
   if (free.empty()) return std::nullopt;
   return free.at(static_cast<std::size_t>(state.Rnd.Below(static_cast<double>(free.size()))));
 }

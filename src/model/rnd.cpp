@@ -32,4 +32,15 @@ void Rnd::Reseed(std::uint64_t mix) {
   NextBits();
 }
 
+void Rnd::Skip(std::uint64_t count) {
+  // A step is state x times + plus: first one of the generator's, then two at once, four, eight.
+  std::uint64_t times = kMultiplier;
+  std::uint64_t plus = kIncrement;
+  for (; count > 0; count /= 2) {
+    if (count % 2 == 1) state_ = state_ * times + plus;
+    plus *= times + 1;
+    times *= times;
+  }
+}
+
 }  // namespace coilrun

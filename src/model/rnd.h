@@ -13,6 +13,8 @@ class Rnd {
   int Below(double range);
   /// Mixes a number into the state, so that two reseeds with the same number still differ.
   void Reseed(std::uint64_t mix);
+  /// As so many calls of `Next`, in no time.
+  void Skip(std::uint64_t count);
 
  private:
   std::uint32_t NextBits();

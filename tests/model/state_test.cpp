@@ -81,6 +81,13 @@ TEST(Rnd, GivesTheSameNumbersEverywhere) {
               ElementsAre(492, 682, 996));
   for (int i = 0; i < 1000; ++i) ASSERT_LT(pinned.Below(6), 6);
   EXPECT_EQ(pinned.Below(0.5), 0);
+  for (const int count : {0, 1, 2, 3, 1000, 20000}) {
+    Rnd walked;
+    Rnd skipped;
+    for (int i = 0; i < count; ++i) walked.Next();
+    skipped.Skip(static_cast<std::uint64_t>(count));
+    EXPECT_EQ(skipped.Next(), walked.Next()) << count;
+  }
 }
 
 TEST(Table, RefusesSlotsThatItDoesNotHave) {
