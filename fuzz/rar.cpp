@@ -1,5 +1,8 @@
 #include <cstdint>
 #include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <span>
 
 #include "platform/rar/entry_name.h"
@@ -11,9 +14,26 @@
 namespace coilrun {
 namespace {
 
+/// The keys of the committed archives, of which each costs as much as all else that an input asks
+/// for. Inputs may make no more of them, but for the cheapest: no other code is reached by that.
+RarKeyRing MakeKeys() {
+  constexpr std::int64_t kCheap = 256;
+  RarKeyRing keys("sn80463");
+  for (const auto& entry : std::filesystem::directory_iterator(COILRUN_CORPUS_DIR "/rar")) {
+    std::ifstream file(entry.path(), std::ios::binary);
+    const Bytes bytes(std::istreambuf_iterator<char>(file), {});
+    RarReader reader(bytes, std::move(keys));
+    for (std::size_t i = 0; i < reader.Entries().size(); ++i) reader.Read(i);
+    keys = reader.Keys();
+  }
+  keys.LimitWork(kCheap);
+  return keys;
+}
+
 bool KeepsItsPromises(const Bytes& bytes) {
+  static const RarKeyRing keys = MakeKeys();
   constexpr std::uint64_t kSmall = 1 << 20;
-  RarReader reader(bytes, "sn80463");
+  RarReader reader(bytes, keys);
   for (std::size_t i = 0; i < reader.Entries().size(); ++i) {
     const RarEntry& entry = reader.Entries()[i];
     if (entry.size > kSmall) continue;
@@ -30,11 +50,11 @@ bool KeepsItsPromises(const Bytes& bytes) {
 /// Reads any bytes as an archive, as they are and with the header checksums put right. False when
 /// the reader gives what it should not.
 bool SurvivesAsArchive(std::span<const std::uint8_t> input) {
-  Bytes bytes(input.begin(), input.end());
-  if (!KeepsItsPromises(bytes)) return false;
-  if (IsRar5(bytes)) RepairHeaders5(bytes);
-  if (IsRar4(bytes)) RepairHeaders4(bytes);
-  return KeepsItsPromises(bytes);
+  const Bytes bytes(input.begin(), input.end());
+  Bytes repaired = bytes;
+  if (IsRar5(bytes)) RepairHeaders5(repaired);
+  if (IsRar4(bytes)) RepairHeaders4(repaired);
+  return KeepsItsPromises(bytes) && (repaired == bytes || KeepsItsPromises(repaired));
 }
 
 }  // namespace

@@ -43,6 +43,8 @@ class RarKeyRing {
       : password_(std::move(password)), workLeft_(work) {}
 
   bool HasPassword() const { return !password_.empty(); }
+  /// What may yet be spent on new keys.
+  void LimitWork(std::int64_t work) { workLeft_ = work; }
   /// Nothing for an exponent above `kMaxExponent`, when the archive's share of work is used up, or
   /// when libcrypto fails.
   RarKeyResult<Rar5Keys> Keys5(const RarSalt& salt, int exponent);

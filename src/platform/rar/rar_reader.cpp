@@ -48,8 +48,11 @@ bool RarReader::Knows(std::span<const std::uint8_t> file) {
 }
 
 RarReader::RarReader(Bytes file, std::string password)
+    : RarReader(std::move(file), RarKeyRing(std::move(password))) {}
+
+RarReader::RarReader(Bytes file, RarKeyRing keys)
     : file_(std::move(file)),
-      keys_(std::move(password)),
+      keys_(std::move(keys)),
       generation_(IsRar5(file_) ? 5 : 4),
       listing_(List(file_, keys_)) {
   RefuseUnfit();

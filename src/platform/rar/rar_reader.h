@@ -30,10 +30,13 @@ class RarReader {
 
   /// `password` is UTF-8; empty for none.
   RarReader(Bytes file, std::string password);
+  /// With keys that are made already.
+  RarReader(Bytes file, RarKeyRing keys);
 
   const std::vector<RarEntry>& Entries() const { return listing_.entries; }
   /// Why the walk over the entries stopped; empty when it came to a proper end.
   const std::string& Fault() const { return listing_.fault; }
+  const RarKeyRing& Keys() const { return keys_; }
   /// Fast when the entries are read in order. A folder has no contents.
   RarContents Read(std::size_t index);
 
