@@ -62,7 +62,7 @@ RarHeaderResult ReadEncryptedHeader(std::span<const std::uint8_t> archive, std::
   ByteReader peek(*first);
   const BlockStart start = ReadBlockStart(peek);
   reader.Seek(salt.size());
-  const auto cipherText = reader.Take(RoundedToBlocks(start.size));
+  const auto cipherText = reader.Take(RoundedToBlocks(std::size_t{start.size}));
   if (!reader.Ok()) return {std::nullopt, kDamagedOrWrongPassword};
   auto header = AesDecrypt(keys->cipher, keys->iv, cipherText);
   if (!header) return {std::nullopt, kCryptoFails};
