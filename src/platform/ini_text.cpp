@@ -7,7 +7,7 @@
 namespace coilrun {
 namespace {
 
-constexpr std::string_view kBlanks = " \t\r";
+constexpr std::string_view kBlanks = " \t";
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 bool IsControl(char character) {
@@ -53,6 +53,12 @@ bool IsUtf8(std::string_view text) {
   return true;
 }
 
+/// Lines end in LF, CR or both.
+std::size_t LineEndSize(std::string_view text) {
+  if (text.starts_with("\r\n")) return 2;
+  return std::min<std::size_t>(text.size(), 1);
+}
+
 bool IsGoodLine(std::string_view line) {
   const std::size_t first = line.find_first_not_of(kBlanks);
   if (first == std::string_view::npos) return true;
@@ -81,10 +87,11 @@ std::optional<std::string> FindIniDamage(std::string_view text) {
   if (std::any_of(text.begin(), text.end(), IsBadControl)) return "it holds control characters";
   if (!IsUtf8(text)) return "it is not UTF-8 text";
   for (int number = 1; !text.empty(); ++number) {
-    const std::size_t end = std::min(text.find('\n'), text.size());
-    if (!IsGoodLine(text.substr(0, end)))
+    const std::string_view line = text.substr(0, text.find_first_of("\r\n"));
+    if (!IsGoodLine(line))
       return "line " + std::to_string(number) + " is neither a section nor a key with a value";
-    text.remove_prefix(std::min(end + 1, text.size()));
+    text.remove_prefix(line.size());
+    text.remove_prefix(LineEndSize(text));
   }
   return std::nullopt;
 }

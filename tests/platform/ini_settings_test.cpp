@@ -91,6 +91,7 @@ TEST_F(IniSettingsTest, ADamagedFileIsSetAsideAndToldOnce) {
       "[Options]\nPlayer Name=\xC3",
       "[Options\nPlayer Name=A\n",
       "[Options]\nPlayer Na",
+      "[Options]\nPlayer Name=A\rnn\n",
       std::string((1U << 20U) + 1, '\n'),
   };
   Put(defaults_, "[Options]\nPlayer Name=Default\n");
