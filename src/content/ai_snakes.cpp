@@ -18,7 +18,7 @@ using Names = std::vector<std::string>;
 /// The lines of the file of names that are not blank; none without the file, nothing when the file
 /// holds no line at all.
 std::optional<Names> LoadAiNames(const Files& files) {
-  const auto file = files.Read(std::string{kProgramFolder} + "\\AI_Names.lst");
+  const auto file = files.Read(InProgramFolder("\\AI_Names.lst"));
   if (!file) return Names{};
   if (file->empty()) return std::nullopt;
   Names names;

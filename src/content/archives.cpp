@@ -16,7 +16,7 @@ constexpr std::string_view kSeparators = "\\/";
 
 std::string ListPath(std::string_view archive) {
   const std::string_view fileName = archive.substr(archive.find_last_of(kSeparators) + 1);
-  return std::string{kProgramFolder}.append("\\cleanup-").append(fileName).append(kListSuffix);
+  return InProgramFolder("\\cleanup-", fileName).append(kListSuffix);
 }
 
 /// Names stay below the folder that they are unpacked into and fit on one line of a list.
@@ -172,10 +172,9 @@ bool IsShipped(std::string_view shortName) {
 
 /// Deletes the files that the lists name, then the lists; tells whether a list went away.
 bool DeleteListedFiles(Files& files) {
-  const std::string folder{kProgramFolder};
   std::vector<std::string> lists =
-      files.List(folder, kListSuffix).value_or(std::vector<std::string>{});
-  for (std::string& name : lists) name.insert(0, folder + "\\");
+      files.List(InProgramFolder({}), kListSuffix).value_or(std::vector<std::string>{});
+  for (std::string& name : lists) name = InProgramFolder("\\", name);
   std::vector<std::string> listed;
   for (const std::string& path : lists) {
     const Bytes list = files.Read(path).value_or(Bytes{});

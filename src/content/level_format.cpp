@@ -4,6 +4,7 @@
 #include <array>
 
 #include "model/numbers.h"
+#include "ports/windows_1252.h"
 
 namespace coilrun {
 namespace {
@@ -60,10 +61,6 @@ constexpr std::string_view kStartCodes = "S123456789ABCDEF";
 
 bool IsMapLetter(char character) {
   return 'a' <= character && character <= 'z';
-}
-
-char UpperCase(char letter) {
-  return static_cast<char>(letter - 'a' + 'A');
 }
 
 std::optional<LevelValue> NumberValue(std::optional<int> number) {

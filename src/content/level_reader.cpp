@@ -58,10 +58,6 @@ const typename Targets::value_type* Find(const Targets& targets, LevelKey key) {
   return found == targets.end() ? nullptr : &*found;
 }
 
-std::string InProgramFolder(std::string_view folder, std::string_view name) {
-  return std::string{kProgramFolder}.append(folder).append(name);
-}
-
 }  // namespace
 
 bool LevelReader::Read(std::string_view text) {
@@ -226,7 +222,7 @@ bool LevelReader::Require(std::string_view archive) {
   feed.UnpackedCount = 0;
   feed.LoadTotal = 1;
   ShowCaption(context_, std::string{"Unextracting: "}.append(archive));
-  SnUnextractFile(context_, InProgramFolder("\\", archive), InProgramFolder("\\gfx\\", ""),
+  SnUnextractFile(context_, InProgramFolder("\\", archive), InProgramFolder("\\gfx\\"),
                   kArchivePassword);
   return true;
 }

@@ -18,10 +18,6 @@ constexpr std::string_view kSuffix = ".smp";
 /// Progress steps that a pack counts for.
 constexpr int kStepsAPack = 32;
 
-std::string InProgramFolder(std::string_view path) {
-  return std::string{kProgramFolder}.append(path);
-}
-
 std::string DirOf(const std::string& file) {
   return file.substr(0, file.size() - kSuffix.size());
 }
@@ -64,14 +60,14 @@ class PackLoading {
       const std::string folder = FoldCase(name.substr(0, name.find_first_of("\\/")));
       return folder == own || !IsPackFolder(folder);
     };
-    const UnpackResult result = SnUnextractFile(context_, InProgramFolder("\\models\\") + file,
+    const UnpackResult result = SnUnextractFile(context_, InProgramFolder("\\models\\", file),
                                                 InProgramFolder("\\gfx\\"), "", isOwn);
     if (!result.opened) {
       Report("Model pack " + file + " is no archive that can be read");
     } else if (result.refused > 0) {
       Report("Model pack " + file + ": " + std::to_string(result.refused) +
              " files are damaged, locked or not allowed");
-    } else if (!FileExists(context_.files, InProgramFolder("\\gfx\\") + DirOf(file))) {
+    } else if (!FileExists(context_.files, InProgramFolder("\\gfx\\", DirOf(file)))) {
       Report("Model pack " + file + " holds no folder " + DirOf(file));
     }
   }
@@ -83,7 +79,7 @@ class PackLoading {
   }
 
   void Describe(ModelPack& pack) const {
-    const auto ini = context_.files.Read(InProgramFolder("\\gfx\\") + pack.Dir + "\\model.ini");
+    const auto ini = context_.files.Read(InProgramFolder("\\gfx\\", pack.Dir) + "\\model.ini");
     if (ini) {
       ReadModelIni(TextOf(*ini), pack);
     } else {

@@ -4,7 +4,7 @@
 #include "game/game_over.h"
 #include "game/waiting.h"
 #include "model/feed.h"
-#include "model/scan_codes.h"
+#include "ports/scan_codes.h"
 
 namespace coilrun {
 namespace {

@@ -5,7 +5,7 @@
 
 #include "game/snake_timers.h"
 #include "game/waiting.h"
-#include "model/scan_codes.h"
+#include "ports/scan_codes.h"
 
 namespace coilrun {
 namespace {

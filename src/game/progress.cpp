@@ -6,8 +6,8 @@
 #include "game/game_over.h"
 #include "game/waiting.h"
 #include "model/numbers.h"
-#include "model/scan_codes.h"
 #include "ports/files.h"
+#include "ports/scan_codes.h"
 
 namespace coilrun {
 namespace {
@@ -57,7 +57,7 @@ void StartNewGame(Game& game) {
   mode.GodMode = false;
   mode.NoClip = false;
   mode.Cheated = false;
-  game.host.LoadLevel(std::string{kProgramFolder} + "\\lvl\\lvl1.dat");
+  game.host.LoadLevel(InProgramFolder("\\lvl\\lvl1.dat"));
 }
 
 bool LevelComplete(const State& state, int snake) {

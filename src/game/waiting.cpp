@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "model/scan_codes.h"
+#include "ports/scan_codes.h"
 
 namespace coilrun {
 namespace {

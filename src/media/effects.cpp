@@ -11,10 +11,6 @@ namespace {
 constexpr std::array<std::string_view, 4> kStandardEffects = {
     "\\Snd\\collect.wav", "\\Snd\\explode.wav", "\\Snd\\live.wav", "\\Snd\\wall.wav"};
 
-std::string InProgramFolder(std::string_view path) {
-  return std::string{kProgramFolder}.append(path);
-}
-
 }  // namespace
 
 Effects::Effects(State& state, Files& files, AudioOut& audio)

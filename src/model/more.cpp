@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <charconv>
 
-#include "model/scan_codes.h"
+#include "ports/scan_codes.h"
 
 namespace coilrun {
 namespace {

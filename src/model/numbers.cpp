@@ -1,11 +1,12 @@
 #include "model/numbers.h"
 
-#include <algorithm>
 #include <array>
 #include <cctype>
 #include <charconv>
 #include <cstdint>
 #include <limits>
+
+#include "ports/windows_1252.h"
 
 namespace coilrun {
 namespace {
@@ -23,12 +24,6 @@ std::optional<int> RoundInto(double number, double lowest, double highest) {
   const double rounded = RoundHalfEven(number);
   if (!(rounded >= lowest && rounded <= highest)) return std::nullopt;
   return static_cast<int>(rounded);
-}
-
-bool EqualsIgnoringCase(std::string_view text, std::string_view lower) {
-  return std::equal(text.begin(), text.end(), lower.begin(), lower.end(), [](char a, char b) {
-    return std::tolower(static_cast<unsigned char>(a)) == b;
-  });
 }
 
 /// from_chars reads words like "inf" too; what follows the sign of a number is a digit or a point.
@@ -88,8 +83,9 @@ std::optional<int> ToInt32(double number) {
 }
 
 std::optional<bool> ToBoolean(std::string_view text) {
-  if (EqualsIgnoringCase(text, "true")) return true;
-  if (EqualsIgnoringCase(text, "false")) return false;
+  const std::string word = FoldCase(text);
+  if (word == "true") return true;
+  if (word == "false") return false;
   const auto number = WholeNumber(text);
   if (!number) return std::nullopt;
   return *number != 0;

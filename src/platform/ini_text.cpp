@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "ports/windows_1252.h"
+#include "ports/unicode.h"
 
 namespace coilrun {
 namespace {
@@ -17,40 +17,6 @@ bool IsControl(char character) {
 
 bool IsBadControl(char character) {
   return IsControl(character) && character != '\t' && character != '\r' && character != '\n';
-}
-
-struct Sequence {
-  std::size_t length = 0;
-  unsigned char leastSecond = 0x80;
-  unsigned char mostSecond = 0xBF;
-};
-
-/// The well-formed sequences that begin with this byte; length 0 when there is none.
-Sequence SequenceFrom(unsigned char lead) {
-  if (lead < 0x80) return {1};
-  if (lead >= 0xC2 && lead <= 0xDF) return {2};
-  if (lead == 0xE0) return {3, 0xA0};
-  if (lead == 0xED) return {3, 0x80, 0x9F};
-  if (lead >= 0xE1 && lead <= 0xEF) return {3};
-  if (lead == 0xF0) return {4, 0x90};
-  if (lead == 0xF4) return {4, 0x80, 0x8F};
-  if (lead >= 0xF1 && lead <= 0xF3) return {4};
-  return {};
-}
-
-bool IsUtf8(std::string_view text) {
-  const auto byteAt = [&](std::size_t at) { return static_cast<unsigned char>(text[at]); };
-  while (!text.empty()) {
-    const Sequence sequence = SequenceFrom(byteAt(0));
-    if (sequence.length == 0 || sequence.length > text.size()) return false;
-    if (sequence.length > 1 &&
-        (byteAt(1) < sequence.leastSecond || byteAt(1) > sequence.mostSecond))
-      return false;
-    for (std::size_t i = 2; i < sequence.length; ++i)
-      if ((byteAt(i) & 0xC0U) != 0x80U) return false;
-    text.remove_prefix(sequence.length);
-  }
-  return true;
 }
 
 /// Lines end in LF, CR or both.

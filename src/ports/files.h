@@ -13,6 +13,11 @@ namespace coilrun {
 /// How the game writes the program folder in its paths: ".\gfx\pause.bmp", ".\lvl\lvl1.dat".
 inline constexpr std::string_view kProgramFolder = ".";
 
+/// The path of something in the program folder: InProgramFolder("\\lvl\\", "lvl1.dat").
+inline std::string InProgramFolder(std::string_view path, std::string_view name = {}) {
+  return std::string{kProgramFolder}.append(path).append(name);
+}
+
 /// The game's files. Paths are Windows-1252 text with backslashes in any letter case, beginning
 /// with `kProgramFolder` (a full name that `FullName` gave is taken too). Reading looks into the
 /// per-user root first, then into the program folder; writing goes to the program folder, or to the

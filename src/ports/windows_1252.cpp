@@ -4,6 +4,8 @@
 #include <array>
 #include <cstdint>
 
+#include "ports/unicode.h"
+
 namespace coilrun {
 namespace {
 
@@ -26,34 +28,27 @@ char ByteOf(char32_t codePoint) {
   return static_cast<char>(0x80 + (found - kUpperControls.begin()));
 }
 
-std::size_t SequenceLength(unsigned char lead) {
-  if (lead < 0x80) return 1;
-  if (lead >= 0xC2 && lead < 0xE0) return 2;
-  if (lead >= 0xE0 && lead < 0xF0) return 3;
-  return lead >= 0xF0 && lead < 0xF5 ? 4 : 0;
-}
+}  // namespace
 
-struct Decoded {
-  char32_t codePoint = U'?';
-  std::size_t length = 1;
-};
-
-/// A broken sequence costs one byte and reads as '?'.
-Decoded DecodeOne(std::string_view text) {
-  const auto lead = static_cast<unsigned char>(text[0]);
-  const std::size_t length = SequenceLength(lead);
-  if (length == 0 || length > text.size()) return {};
-  if (length == 1) return {lead, 1};
-  char32_t codePoint = lead & (0x7FU >> length);
-  for (std::size_t i = 1; i < length; ++i) {
-    const auto byte = static_cast<unsigned char>(text[i]);
-    if ((byte & 0xC0U) != 0x80U) return {};
-    codePoint = codePoint << 6U | (byte & 0x3FU);
+std::string ToUtf8(std::string_view windows1252) {
+  std::string utf8;
+  for (const char character : windows1252) {
+    AppendUtf8(utf8, CodePoint(static_cast<unsigned char>(character)));
   }
-  return {codePoint, length};
+  return utf8;
 }
 
-char FoldCharacter(char character) {
+std::string FromUtf8(std::string_view utf8) {
+  std::string text;
+  while (!utf8.empty()) {
+    const auto [codePoint, length] = FirstUtf8Character(utf8);
+    text += ByteOf(codePoint);
+    utf8.remove_prefix(length);
+  }
+  return text;
+}
+
+char LowerCase(char character) {
   const auto byte = static_cast<unsigned char>(character);
   const bool ascii = byte >= 'A' && byte <= 'Z';
   const bool accented = byte >= 0xC0 && byte <= 0xDE && byte != 0xD7;
@@ -70,39 +65,26 @@ char FoldCharacter(char character) {
   }
 }
 
-}  // namespace
-
-std::string ToUtf8(std::string_view windows1252) {
-  std::string utf8;
-  for (const char character : windows1252) {
-    const char32_t codePoint = CodePoint(static_cast<unsigned char>(character));
-    if (codePoint < 0x80) {
-      utf8 += static_cast<char>(codePoint);
-    } else if (codePoint < 0x800) {
-      utf8 += static_cast<char>(0xC0U | codePoint >> 6U);
-      utf8 += static_cast<char>(0x80U | (codePoint & 0x3FU));
-    } else {
-      utf8 += static_cast<char>(0xE0U | codePoint >> 12U);
-      utf8 += static_cast<char>(0x80U | (codePoint >> 6U & 0x3FU));
-      utf8 += static_cast<char>(0x80U | (codePoint & 0x3FU));
-    }
+char UpperCase(char character) {
+  const auto byte = static_cast<unsigned char>(character);
+  const bool ascii = byte >= 'a' && byte <= 'z';
+  const bool accented = byte >= 0xE0 && byte <= 0xFE && byte != 0xF7;
+  if (ascii || accented) return static_cast<char>(byte - 0x20);
+  switch (byte) {
+    case 0x9A:
+    case 0x9C:
+    case 0x9E:
+      return static_cast<char>(byte - 0x10);
+    case 0xFF:
+      return '\x9f';
+    default:
+      return character;
   }
-  return utf8;
-}
-
-std::string FromUtf8(std::string_view utf8) {
-  std::string text;
-  while (!utf8.empty()) {
-    const Decoded decoded = DecodeOne(utf8);
-    text += ByteOf(decoded.codePoint);
-    utf8.remove_prefix(decoded.length);
-  }
-  return text;
 }
 
 std::string FoldCase(std::string_view windows1252) {
   std::string folded(windows1252);
-  std::transform(folded.begin(), folded.end(), folded.begin(), FoldCharacter);
+  std::transform(folded.begin(), folded.end(), folded.begin(), LowerCase);
   return folded;
 }
 

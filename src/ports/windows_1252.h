@@ -11,6 +11,9 @@ std::string ToUtf8(std::string_view windows1252);
 /// The way back; characters without a place in Windows-1252 and broken sequences become '?'.
 std::string FromUtf8(std::string_view utf8);
 
+/// The other case of a letter, umlauts too; any other character as it is.
+char LowerCase(char character);
+char UpperCase(char character);
 /// Lower-case text, umlauts too, for comparing names without regard to case.
 std::string FoldCase(std::string_view windows1252);
 

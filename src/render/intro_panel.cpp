@@ -64,7 +64,7 @@ void IntroPanel::Show() {
 
 void IntroPanel::DrawBackground() {
   if (!pictureTried_) {
-    const auto file = files_.Read(std::string{kProgramFolder} + "\\intro.bmp");
+    const auto file = files_.Read(InProgramFolder("\\intro.bmp"));
     auto bitmap = file ? DecodeBmp(*file) : std::nullopt;
     if (bitmap) picture_ = Picture(std::move(*bitmap), KeyMode::kBlack);
     pictureTried_ = true;

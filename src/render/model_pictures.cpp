@@ -60,7 +60,7 @@ void ModelPictures::LoadModelPictures(int model) {
   const ModelPack& pack = state_.ModelPacks(model);
   auto& pictures = models_[static_cast<std::size_t>(model)];
   pictures = {};
-  const std::string folder = std::string{kProgramFolder} + "\\gfx\\" + pack.Dir + "\\";
+  const std::string folder = InProgramFolder("\\gfx\\", pack.Dir) + "\\";
   for (const ModelPiece piece : PiecesOf(pack)) {
     const std::string path = folder + std::string{kFiles[Index(piece)]};
     pictures[Index(piece)] = loader_.DD_CreateSurfFromFile(path, kPieceSize, KeyMode::kBlack,

@@ -6,7 +6,7 @@ namespace coilrun {
 namespace {
 
 std::string PathOf(std::string_view nameBelowGfx) {
-  return std::string{kProgramFolder}.append("\\gfx\\").append(nameBelowGfx);
+  return InProgramFolder("\\gfx\\", nameBelowGfx);
 }
 
 }  // namespace

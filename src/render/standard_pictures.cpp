@@ -65,10 +65,6 @@ constexpr std::size_t Index(Standard which) {
   return static_cast<std::size_t>(which);
 }
 
-std::string InProgramFolder(std::string_view path) {
-  return std::string{kProgramFolder}.append(path);
-}
-
 }  // namespace
 
 StandardPictures::StandardPictures(State& state, const Files& files, PictureLoader& loader)

@@ -4,11 +4,11 @@
 
 #include "model/numbers.h"
 #include "model/snakes_in_play.h"
+#include "ports/scan_codes.h"
 
 namespace coilrun {
 namespace {
 
-constexpr int kKeyN = 49;
 constexpr int kHalfCell = 10;
 constexpr std::array<std::string_view, kBitmapFonts> kFontNames = {"1", "2", "3", "4", "5", "6"};
 

@@ -9,6 +9,7 @@
 
 #include "model/animation.h"
 #include "model/state.h"
+#include "ports/scan_codes.h"
 #include "script/trace.h"
 
 namespace coilrun {
@@ -423,7 +424,6 @@ class FieldTable {
     });
   }
 
-  static constexpr int kLastScanCode = 255;
   static constexpr int kBitmapFonts = 6;
   static constexpr int kFullVolume = 100;
   static constexpr int kSilence = -2500;  ///< hundredths of a decibel

@@ -8,6 +8,7 @@
 #include <iterator>
 #include <utility>
 
+#include "ports/scan_codes.h"
 #include "script/script_text.h"
 
 namespace coilrun {
@@ -22,7 +23,6 @@ constexpr std::int64_t kMicrosInAMilli = 1000;
 constexpr std::int64_t kTapLength = 30 * kMicrosInAMilli;
 constexpr std::int64_t kTypePeriod = 60 * kMicrosInAMilli;
 constexpr std::size_t kMaxTyped = 10'000;
-constexpr int kLastScanCode = 255;
 constexpr string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 /// What is wrong with a line; nothing when all is well.
@@ -49,17 +49,11 @@ std::optional<std::int64_t> WholeNumberOf(string_view text) {
 
 /// The scan code of the key that types a character on the US layout.
 std::optional<std::uint8_t> KeyOf(char character) {
-  struct Row {
-    string_view characters;
-    std::uint8_t firstCode;
-  };
-  static constexpr std::array kRows = {Row{"1234567890", 2}, Row{"qwertyuiop", 16},
-                                       Row{"asdfghjkl", 30}, Row{"zxcvbnm", 44}, Row{" ", 57}};
-  for (const Row& row : kRows) {
-    const std::size_t at = row.characters.find(character);
-    if (at != string_view::npos) return static_cast<std::uint8_t>(row.firstCode + at);
-  }
-  return std::nullopt;
+  if (character == ' ') return kKeySpace;
+  const bool isTyped =
+      ('a' <= character && character <= 'z') || ('0' <= character && character <= '9');
+  if (!isTyped) return std::nullopt;
+  return static_cast<std::uint8_t>(kUsCharacters.find(character));
 }
 
 /// Reads a script line by line. Steps that `tap` and `type` imply for later are kept apart, to come

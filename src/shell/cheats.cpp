@@ -1,9 +1,8 @@
 #include "shell/cheats.h"
 
-#include <cctype>
-
 #include "content/load_level.h"
 #include "model/numbers.h"
+#include "ports/windows_1252.h"
 
 namespace coilrun {
 namespace {
@@ -26,7 +25,7 @@ void Toggle(State& state, bool& flag, std::string_view what) {
 /// A level that cannot be loaded leaves the loader's own line in the status.
 void Warp(Shell& shell, const std::string& digits) {
   const std::string number = NumberText(LeadingNumber(digits));
-  shell.game.host.LoadLevel(std::string{kProgramFolder} + "\\lvl\\lvl" + number + ".dat");
+  shell.game.host.LoadLevel(InProgramFolder("\\lvl\\lvl", number + ".dat"));
   State& state = shell.state;
   if (!state.shell.NoGameRunning) {
     Reply(state, "Level loaded... (Press ESC twice)");
@@ -86,7 +85,7 @@ void GiveItems(State& state, char what, const std::string& line) {
 }
 
 void Give(State& state, const std::string& line) {
-  const auto what = static_cast<char>(std::toupper(static_cast<unsigned char>(line[4])));
+  const char what = UpperCase(line[4]);
   if (line.size() == 5) {
     GiveAtOnce(state, what);
   } else if (line.size() <= 7) {

@@ -69,7 +69,7 @@ void CommandLine::SetStartLevel(std::string_view value) {
   ModeState& mode = state_.mode;
   mode.StartLevelName = value;
   mode.LevelSwitchGiven = true;
-  mode.StartLevelPath = std::string{kProgramFolder} + "\\lvl\\" + mode.StartLevelName;
+  mode.StartLevelPath = InProgramFolder("\\lvl\\", mode.StartLevelName);
   if (files_.Exists(mode.StartLevelPath)) return;
   box_.Show("SetCommand_LoadLevel: Level does not exist!",
             "Level " + mode.StartLevelName + " does not exist!", BoxButtons::kOk);

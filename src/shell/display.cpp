@@ -16,10 +16,6 @@ void ShowCaption(Shell& shell, std::string_view caption) {
   shell.renderer.ShowProgress();
 }
 
-std::string InProgramFolder(std::string_view path) {
-  return std::string{kProgramFolder}.append(path);
-}
-
 void LeaveFullScreen(Shell& shell) {
   shell.ports.screen.SetFullScreen(false);
   shell.pump.Yield();

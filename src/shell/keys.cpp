@@ -5,7 +5,7 @@
 #include <string>
 
 #include "game/turn_queue.h"
-#include "model/scan_codes.h"
+#include "ports/scan_codes.h"
 #include "shell/cheats.h"
 #include "shell/leaving.h"
 #include "shell/main_menu.h"

@@ -24,7 +24,7 @@ constexpr int kFolderEmpty = 0;
 constexpr int kFolderMissing = 76;
 
 void CheckLevelFolder(Shell& shell) {
-  const auto levels = shell.ports.files.List(std::string{kProgramFolder} + "\\lvl", ".dat");
+  const auto levels = shell.ports.files.List(InProgramFolder("\\lvl"), ".dat");
   if (levels && !levels->empty()) return;
   const int error = levels ? kFolderEmpty : kFolderMissing;
   shell.ports.box.Show(

@@ -3,7 +3,7 @@
 #include "field.h"
 #include "game/death_messages.h"
 #include "game/waiting.h"
-#include "model/scan_codes.h"
+#include "ports/scan_codes.h"
 
 namespace coilrun {
 namespace {

@@ -2,12 +2,12 @@
 
 #include <algorithm>
 #include <array>
-#include <cctype>
 #include <optional>
 
 #include "content/lines.h"
 #include "model/numbers.h"
 #include "model/state.h"
+#include "ports/windows_1252.h"
 #include "quiet_level.h"
 
 namespace coilrun {
@@ -21,13 +21,6 @@ constexpr std::array<std::string_view, 4> kTypes = {"wall", "wall_no_tnt", "ani_
 
 std::string Quoted(std::string_view text) {
   return "\"" + std::string{text} + "\"";
-}
-
-bool StartsIgnoringCase(std::string_view text, std::string_view start) {
-  return text.size() >= start.size() &&
-         std::equal(start.begin(), start.end(), text.begin(), [](unsigned char a, unsigned char b) {
-           return std::tolower(a) == std::tolower(b);
-         });
 }
 
 bool IsItemCount(LevelKey key) {
@@ -268,8 +261,9 @@ void LevelChecker::CheckUserItem(const KeyDef& def, const LevelValue& value) {
 void LevelChecker::CheckNoKey(std::string_view line) {
   const std::size_t start = std::min(line.find_first_not_of(" \t"), line.size());
   const std::string_view word = line.substr(start);
+  const std::string folded = FoldCase(word);
   for (const KeyDef& def : LevelKeys()) {
-    if (StartsIgnoringCase(word, def.text)) {
+    if (folded.starts_with(FoldCase(def.text))) {
       Warn("ignored: a line must begin with exactly " + Quoted(def.text));
       return;
     }
@@ -284,7 +278,7 @@ void LevelChecker::CheckNoKey(std::string_view line) {
 void LevelChecker::CheckLetters() {
   for (const auto& [name, letter] : letters_) {
     line_ = letter.line;
-    const std::string shown(1, static_cast<char>(std::tolower(static_cast<unsigned char>(name))));
+    const std::string shown(1, LowerCase(name));
     if (!letter.hasPicture) Warn("the user item " + Quoted(shown) + " gets no picture");
     if (letter.hasPicture && !letter.hasType) {
       Warn("the user item " + Quoted(shown) + " gets no type and stays invisible");

@@ -1,22 +1,18 @@
 #include "pictures.h"
 
 #include <algorithm>
-#include <cctype>
 
 #include "content/archives.h"
 #include "platform/disk_files.h"
 #include "platform/rar/rar_archive.h"
+#include "ports/windows_1252.h"
 
 namespace coilrun {
 namespace {
 
 std::string NormalName(std::string name) {
-  for (char& character : name) {
-    character = character == '/'
-                    ? '\\'
-                    : static_cast<char>(std::tolower(static_cast<unsigned char>(character)));
-  }
-  return name;
+  std::replace(name.begin(), name.end(), '/', '\\');
+  return FoldCase(name);
 }
 
 /// The name and every folder in front of it.

@@ -6,6 +6,7 @@
 
 #include "platform/rar/checksums.h"
 #include "ports/bytes.h"
+#include "ports/unicode.h"
 
 namespace coilrun {
 namespace {
@@ -26,22 +27,12 @@ std::optional<Digest256> Stretch(const std::string& password, const RarSalt& sal
   return key;
 }
 
-void AppendUtf16(Bytes& bytes, std::uint32_t unit) {
-  bytes.push_back(static_cast<std::uint8_t>(unit));
-  bytes.push_back(static_cast<std::uint8_t>(unit >> 8));
-}
-
 /// Little-endian UTF-16. Broken sequences give a password that fits nothing, which is all they can.
-Bytes Utf16Of(const std::string& utf8) {
+Bytes Utf16Bytes(std::string_view utf8) {
   Bytes result;
-  for (std::size_t at = 0; at < utf8.size();) {
-    const auto lead = static_cast<unsigned char>(utf8[at++]);
-    const int more = lead < 0xC0 ? 0 : lead < 0xE0 ? 1 : lead < 0xF0 ? 2 : 3;
-    std::uint32_t code = more == 0 ? lead : lead & (0x3FU >> more);
-    for (int i = 0; i < more && at < utf8.size(); ++i)
-      code = code << 6 | (static_cast<unsigned char>(utf8[at++]) & 0x3FU);
-    if (code >= 0x10000) AppendUtf16(result, 0xD7C0U + (code >> 10));
-    AppendUtf16(result, code >= 0x10000 ? 0xDC00U + (code & 0x3FFU) : code);
+  for (const char16_t unit : Utf16FromUtf8(utf8)) {
+    result.push_back(static_cast<std::uint8_t>(unit));
+    result.push_back(static_cast<std::uint8_t>(unit >> 8));
   }
   return result;
 }
@@ -90,7 +81,7 @@ std::optional<Rar5Keys> DeriveRar5Keys(const std::string& password, const RarSal
 
 std::optional<Rar4Keys> DeriveRar4Keys(const std::string& password,
                                        const std::optional<Rar4Salt>& salt) {
-  Bytes seed = Utf16Of(password);
+  Bytes seed = Utf16Bytes(password);
   if (salt) seed.insert(seed.end(), salt->begin(), salt->end());
 
   Rar4Keys keys;

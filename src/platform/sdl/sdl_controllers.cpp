@@ -3,22 +3,20 @@
 #include <algorithm>
 
 #include "platform/pad_codes.h"
+#include "ports/scan_codes.h"
 
 namespace coilrun {
 
 int SdlControllers::KeyOfButton(const SDL_ControllerButtonEvent& event) const {
-  constexpr int kEscapeCode = 1;
-  constexpr int kEnterCode = 28;
-  constexpr int kPauseCode = 197;
   const auto found = controllers_.find(event.which);
   const int number = found == controllers_.end() ? 0 : found->second.number;
   switch (event.button) {
     case SDL_CONTROLLER_BUTTON_A:
-      return kEnterCode;
+      return kKeyEnter;
     case SDL_CONTROLLER_BUTTON_B:
-      return kEscapeCode;
+      return kKeyEscape;
     case SDL_CONTROLLER_BUTTON_START:
-      return kPauseCode;
+      return kKeyPause;
     case SDL_CONTROLLER_BUTTON_DPAD_UP:
       return PadCode(number, PadDirection::kUp);
     case SDL_CONTROLLER_BUTTON_DPAD_DOWN:

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string_view>
+
 namespace coilrun {
 
 /// Scan codes of the keys with a meaning of their own, and of controllers.
@@ -22,10 +24,18 @@ enum Key : int {
   kKeyLeft = 203,
   kKeyRight = 205,
   kKeyDown = 208,
+  kKeyN = 49,
   kLastSteeringKey = 239,
   kFirstPadCode = 240,  ///< up, down, left, right of the first controller, then of the second ...
 };
 
 inline constexpr int kPadDirections = 4;
+/// The highest code there is.
+inline constexpr int kLastScanCode = 255;
+
+/// What the keys of the US layout type, by scan code; a blank is a key without a character (the
+/// space bar is apart).
+inline constexpr std::string_view kUsCharacters =
+    "  1234567890-=  qwertyuiop[]  asdfghjkl;'  \\zxcvbnm,./    ";
 
 }  // namespace coilrun
