@@ -107,8 +107,7 @@ std::optional<std::vector<std::string>> DiskFiles::List(const std::string& folde
 bool DiskFiles::Write(const std::string& path, std::span<const std::uint8_t> contents) {
   const auto parsed = Parse(path);
   if (!parsed) return false;
-  auto problem = std::make_error_code(std::errc::device_or_resource_busy);
-  bool first = true;
+  std::optional<std::error_code> problem;
   for (const RealRoot* root : WriteOrder()) {
     const std::error_code error = root->Write(*parsed, contents);
     if (!error) {
@@ -117,9 +116,10 @@ bool DiskFiles::Write(const std::string& path, std::span<const std::uint8_t> con
       writeProblems_.erase(ShortName(path));
       return true;
     }
-    if (std::exchange(first, false)) problem = error;
+    if (!problem) problem = error;
   }
-  writeProblems_[ShortName(path)] = problem;
+  const auto noPlace = std::make_error_code(std::errc::device_or_resource_busy);
+  writeProblems_[ShortName(path)] = problem.value_or(noPlace);
   return false;
 }
 

@@ -40,7 +40,8 @@ OwnFolder::OwnFolder(const fs::path& parent) {
     std::string name = (parent / kOwnPrefix).native() + "XXXXXX";
     if (mkdtemp(name.data()) == nullptr) return;
     claim_ = FolderClaim(name);
-    if (claim_.IsTaken()) continue;
+    std::error_code error;
+    if (!claim_.IsHeld() && (claim_.IsTaken() || !fs::exists(name, error))) continue;
     path_ = name;
     return;
   }
@@ -55,8 +56,9 @@ void RemoveLeftFolders(const fs::path& parent) {
   std::error_code error;
   for (fs::directory_iterator at(parent, error), end; !error && at != end; at.increment(error)) {
     if (!at->path().filename().native().starts_with(kOwnPrefix)) continue;
+    const FolderClaim left(at->path());
     std::error_code ignored;
-    if (FolderClaim(at->path()).IsHeld()) fs::remove_all(at->path(), ignored);
+    if (left.IsHeld()) fs::remove_all(at->path(), ignored);
   }
 }
 

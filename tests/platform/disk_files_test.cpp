@@ -46,6 +46,9 @@ class DiskFilesTest : public testing::Test {
 bool NeverWritable(const fs::path& /*folder*/) {
   return false;
 }
+bool AlwaysWritable(const fs::path& /*folder*/) {
+  return true;
+}
 
 TEST_F(DiskFilesTest, PathsThatLeadOutsideExistNowhereAndTouchNothing) {
   Put(outside_ / "secret.txt", "secret");
@@ -244,6 +247,9 @@ TEST_F(DiskFilesTest, TellsOfEachFileWhyItCouldNotBeWritten) {
   DiskFiles missing(program_ / "none", std::nullopt);
   EXPECT_FALSE(missing.Write(".\\gfx\\a.bmp", {}));
   EXPECT_THAT(missing.WriteProblem(".\\gfx\\a.bmp"), testing::StartsWith("13: "));
+  DiskFiles neither(program_, program_ / "none", AlwaysWritable);
+  EXPECT_FALSE(neither.Write(".\\file\\a.bmp", {}));
+  EXPECT_THAT(neither.WriteProblem(".\\file\\a.bmp"), testing::StartsWith("20: "));
   readOnly.reset();
   EXPECT_TRUE(files.Write(".\\A.bmp", {}));
   EXPECT_EQ(files.WriteProblem(".\\a.bmp"), "");

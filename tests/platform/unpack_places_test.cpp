@@ -1,7 +1,11 @@
 #include "platform/unpack_places.h"
 
+#include <atomic>
 #include <filesystem>
+#include <iterator>
 #include <optional>
+#include <thread>
+#include <vector>
 
 #include <gmock/gmock.h>
 
@@ -74,6 +78,26 @@ TEST(UnpackPlaces, WithoutAPlaceOfThePlayersTheSecondGameUnpacksAmongTemporaryFi
   EXPECT_FALSE(std::filesystem::exists(unpacked));
 }
 
+TEST(OwnFolder, StartsAtTheSameTimeNeverTakeEachOthersForLeftOnes) {
+  const TestFolders home;
+  std::atomic<int> lost = 0;
+  const auto startOften = [&] {
+    for (int start = 0; start < 300; ++start) {
+      RemoveLeftFolders(home.User());
+      const OwnFolder own(home.User());
+      Put(own.Path() / "a.bmp");
+      RemoveLeftFolders(home.User());
+      const bool kept = std::filesystem::exists(own.Path() / "a.bmp");
+      if (!kept || FolderClaim(own.Path()).IsHeld()) ++lost;
+    }
+  };
+  std::vector<std::thread> starts;
+  for (int thread = 0; thread < 8; ++thread) starts.emplace_back(startOften);
+  for (std::thread& start : starts) start.join();
+  EXPECT_EQ(lost, 0);
+  EXPECT_TRUE(std::filesystem::is_empty(home.User()));
+}
+
 TEST(UnpackPlaces, OneFolderForProgramAndPlayerStillKeepsTwoGamesApart) {
   const TestFolders home;
   const Folders folders{home.Program(), home.User() / "coilrun.ini", home.Program()};
@@ -81,6 +105,9 @@ TEST(UnpackPlaces, OneFolderForProgramAndPlayerStillKeepsTwoGamesApart) {
   const Running second(folders);
   EXPECT_EQ(first.Unpacked(), home.Program().string() + "\\gfx\\a.bmp");
   EXPECT_THAT(second.Unpacked(), testing::StartsWith(home.Program().string() + "/coilrun-run-"));
+  const std::filesystem::directory_iterator made(home.Program());
+  EXPECT_EQ(std::distance(begin(made), end(made)), 2)
+      << "the pictures and one folder of a game's own";
 }
 
 }  // namespace
