@@ -22,7 +22,7 @@ struct Tally {
   void Add(Match& match, int snake) {
     const Career& more = match.Of(snake);
     for (int Career::*const count :
-         {&Career::byWall, &Career::byEdge, &Career::byItself, &Career::byOthers, &Career::meals}) {
+         {&Career::byWall, &Career::byEdge, &Career::byItself, &Career::byOthers, &Career::eaten}) {
       career.*count += more.*count;
     }
     frags += match.state().Snakes(snake).Frags;
@@ -36,7 +36,7 @@ void Print(const char* arena, int rivals, RivalKind kind, const Tally& tally) {
   std::printf("%-8s %4d  %-8s %8.1f %7d %6d %6d %6d %6d %8.2f %8.1f\n", arena, rivals,
               RivalText({{kind}}).c_str(), seconds / std::max(career.Deaths(), 1), career.Deaths(),
               career.byWall, career.byEdge, career.byItself, career.byOthers,
-              60 * tally.frags / seconds, 60 * career.meals / seconds);
+              60 * tally.frags / seconds, 60 * career.eaten / seconds);
 }
 
 /// Plays the runs of one row of the table for each kind that takes part.
@@ -72,7 +72,7 @@ int main(int argc, char** argv) {
     return 2;
   }
   std::printf("%-8s %4s  %-8s %8s %7s %6s %6s %6s %6s %8s %8s\n", "arena", "num", "kind", "life s",
-              "deaths", "wall", "edge", "itself", "others", "frags/m", "meals/m");
+              "deaths", "wall", "edge", "itself", "others", "frags/m", "eaten/m");
   for (const int rivals : {4, 8, 15}) {
     bench::PlayArena("open", {.openEdges = true, .rivals = rivals}, *list);
     bench::PlayArena("closed", {.rivals = rivals}, *list);

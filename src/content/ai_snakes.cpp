@@ -31,11 +31,11 @@ std::optional<Names> LoadAiNames(const Files& files) {
   return names;
 }
 
-/// Draws a name that no other snake of this set-up gets; a numbered one when none is left.
+/// Rolls a name that no other snake of this set-up gets; a numbered one when none is left.
 std::string TakeName(State& state, Names& names, int snake) {
   if (names.empty()) return "AI_Snake " + std::to_string(snake - 1);
-  const int drawn = state.Rnd.Below(static_cast<double>(names.size()));
-  const std::string name = names.at(static_cast<std::size_t>(drawn));
+  const int rolled = state.Rnd.Below(static_cast<double>(names.size()));
+  const std::string name = names.at(static_cast<std::size_t>(rolled));
   std::erase(names, name);
   return "<bot> " + name;
 }

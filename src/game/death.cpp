@@ -39,7 +39,7 @@ void LoseLife(State& state, SnakeRec& body) {
   state.level.ElapsedSecs = 0;
 }
 
-void LoseHarvest(SnakeRec& body) {
+void ClearItemCounts(SnakeRec& body) {
   body.YellowEaten = 0;
   body.RedEaten = 0;
   body.BlueEaten = 0;
@@ -53,10 +53,10 @@ void KillSnake(Game& game, int snake, DeathCause cause, int other) {
   State& state = game.state;
   ++state.Snakes(snake).Deaths;
   game.host.PlayEffect(kDeathSound, snake);
-  const int draw = state.Rnd.Below(3) + 1;
+  const int roll = state.Rnd.Below(3) + 1;
   ReseedFromClock(state);
   if (IsMultiplayer(state.mode.GameMode)) {
-    MessagePrint(state, DeathMessage(state.Snakes(snake), cause, state.Snakes(other), draw));
+    MessagePrint(state, DeathMessage(state.Snakes(snake), cause, state.Snakes(other), roll));
   } else {
     game.host.Yield();
   }
@@ -76,7 +76,7 @@ void RespawnSnake(State& state, int snake) {
   if (state.People.Holds(snake)) state.People(snake).queue = {};
   StandAtStart(state, snake);
   if (IsMultiplayer(state.mode.GameMode)) {
-    LoseHarvest(body);
+    ClearItemCounts(body);
   } else {
     LoseLife(state, body);
   }

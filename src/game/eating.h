@@ -6,7 +6,7 @@
 namespace coilrun {
 
 /// How far from an item of this kind a head eats it.
-Reach MealReach(ItemKind kind);
+Reach EatingReach(ItemKind kind);
 
 /// Lets a snake eat every item that its head reaches, with all that follows.
 void EatItems(Game& game, int snake);

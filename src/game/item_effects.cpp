@@ -43,8 +43,8 @@ void Remove(State& state, ItemKind kind, ItemRec& item, int slot) {
   if (!PlaceItem(state, kind, slot, false)) item.Present = false;
 }
 
-/// Sets how long a change of speed lasts, and returns it in seconds.
-int DrawSpeedSeconds(State& state) {
+/// Rolls how long a change of speed lasts, sets it, and returns it in seconds.
+int RollSpeedSeconds(State& state) {
   const int seconds = state.Rnd.Below(6) + 4;
   state.timers.SetInterval(state.timers.ResetSpeed, seconds * 1000);
   return seconds;
@@ -75,7 +75,7 @@ void Boost(State& state, int snake) {
   const double fastest = state.settings.MaxSpeed;
   const double boosted = static_cast<double>(eater.BaseInterval) - state.Rnd.Below(fastest);
   eater.Interval = StepPeriod(std::max(boosted, fastest));
-  const int seconds = DrawSpeedSeconds(state);
+  const int seconds = RollSpeedSeconds(state);
   if (snake == kPlayer) TellBoost(state, eater, seconds);
   state.feed.DispMsg = true;
   state.timers.Start(state.timers.ResetSpeed);
@@ -87,7 +87,7 @@ void SlowDown(State& state, int snake) {
   state.settings.PrevInterval = eater.Interval;
   eater.Interval =
       std::int64_t{eater.BaseInterval} + std::int64_t{state.Rnd.Below(state.settings.MinSpeed)};
-  const int seconds = DrawSpeedSeconds(state);
+  const int seconds = RollSpeedSeconds(state);
   state.timers.Start(state.timers.ResetSpeed);
   if (snake == kPlayer) {
     const int percent = PercentOfPrevious(state, eater) - 100;

@@ -10,8 +10,8 @@
 namespace coilrun {
 namespace {
 
-constexpr int kSpawnPointDraws = 20000;
-constexpr int kSpotDraws = 100;
+constexpr int kSpawnPointRolls = 20000;
+constexpr int kSpotRolls = 100;
 
 /// Candidates for a free spot, in pixels.
 constexpr int kSpotColumns = 61;
@@ -128,13 +128,13 @@ bool IsFree(const SpawnRec& point) {
 }
 
 /// The loader's way: any free point, by lot.
-std::optional<int> DrawSpawnPoint(State& state) {
+std::optional<int> RollSpawnPoint(State& state) {
   const auto firstPoint = state.SpawnPoints.begin();
   if (std::none_of(firstPoint, firstPoint + state.numSpawnPoints, IsFree)) {
-    state.Rnd.Skip(kSpawnPointDraws);
+    state.Rnd.Skip(kSpawnPointRolls);
     return std::nullopt;
   }
-  for (int draw = 0; draw < kSpawnPointDraws; ++draw) {
+  for (int roll = 0; roll < kSpawnPointRolls; ++roll) {
     const int point = state.Rnd.Below(state.numSpawnPoints) + 1;
     if (IsFree(state.SpawnPoints(point))) return point;
   }
@@ -155,15 +155,15 @@ std::optional<int> NextSpawnPoint(State& state) {
   return std::nullopt;
 }
 
-/// Draws spots until one is free, or nothing after all draws. A crowded field is looked at as a
+/// Rolls spots until one is free, or nothing after all rolls. A crowded field is looked at as a
 /// whole once, which costs as much as looking at a few spots.
 std::optional<Point> FindFreeSpot(State& state) {
   constexpr int kSingleLooks = 2;
   std::optional<SpotMap> map;
-  for (int draw = 0; draw < kSpotDraws; ++draw) {
+  for (int roll = 0; roll < kSpotRolls; ++roll) {
     const int column = state.Rnd.Below(kSpotColumns);
     const int row = state.Rnd.Below(kSpotRows);
-    if (draw == kSingleLooks) map.emplace(state);
+    if (roll == kSingleLooks) map.emplace(state);
     const bool taken = map ? map->IsTaken(column, row) : IsSpotTaken(state, Spot(column, row));
     if (!taken) return Spot(column, row);
   }
@@ -195,7 +195,7 @@ bool PlaceItem(State& state, ItemKind kind, int slot, bool initial) {
   ReseedFromClock(state);
   ItemRec& item = state.Items(kind)(slot);
   if (state.numSpawnPoints >= 1) {
-    const auto number = initial ? DrawSpawnPoint(state) : NextSpawnPoint(state);
+    const auto number = initial ? RollSpawnPoint(state) : NextSpawnPoint(state);
     if (number) {
       SpawnRec& point = state.SpawnPoints(*number);
       PutAt(item, {point.X, point.Y}, *number);

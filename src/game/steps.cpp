@@ -25,7 +25,7 @@ bool PlayerStepDue(const State& state) {
 }
 
 void BeginPlayerStep(Game& game) {
-  DrawAppearances(game.state);
+  RollAppearances(game.state);
   TurnPlayer(game.state);
   WallCheck(game);
   MoveHead(game.state, kPlayer);

@@ -11,54 +11,54 @@ namespace {
 
 constexpr std::string_view kExplosionSound = "\\snd\\explode.wav";
 
-/// The check of one snake at the place where it stands.
-struct Blaster {
+/// A snake that is checked for walls where it stands.
+struct CheckedSnake {
   Game& game;
-  int snake;
+  int number;
   int& blasts;
 
-  SnakeRec& Who() const { return game.state.Snakes(snake); }
-  bool Touches(Point obstacle) const { return kObstacleReach.Touches(Who().Head(), obstacle); }
+  SnakeRec& Body() const { return game.state.Snakes(number); }
+  bool Touches(Point obstacle) const { return kObstacleReach.Touches(Body().Head(), obstacle); }
 
   /// Meets a standing obstacle that TNT can blow; false when the snake dies on it.
   bool Meet(bool& present) const {
-    if (Who().TNT < 1) {
-      KillSnake(game, snake, DeathCause::kWall);
+    if (Body().TNT < 1) {
+      KillSnake(game, number, DeathCause::kWall);
       return false;
     }
     present = false;
-    game.host.PlayEffect(kExplosionSound, snake);
+    game.host.PlayEffect(kExplosionSound, number);
     if (++blasts == kBlastsPerCharge) SpendCharge();
     return true;
   }
 
   void SpendCharge() const {
-    --Who().TNT;
+    --Body().TNT;
     blasts = 0;
   }
 };
 
-void CheckWalls(const Blaster& blaster) {
-  State& state = blaster.game.state;
+void CheckWalls(const CheckedSnake& checked) {
+  State& state = checked.game.state;
   for (WallRec& wall : Slots(state.Walls, 1, state.numWalls)) {
-    if (wall.Present && blaster.Touches(wall.At()) && !blaster.Meet(wall.Present)) return;
+    if (wall.Present && checked.Touches(wall.At()) && !checked.Meet(wall.Present)) return;
   }
 }
 
-void CheckUserWalls(const Blaster& blaster) {
-  State& state = blaster.game.state;
+void CheckUserWalls(const CheckedSnake& checked) {
+  State& state = checked.game.state;
   for (UserItemRec& item : Slots(state.UserItems, 1, state.numUserItems)) {
-    const bool met = item.Present && blaster.Touches(item.At()) && IsDestructible(item);
-    if (met && !blaster.Meet(item.Present)) return;
+    const bool met = item.Present && checked.Touches(item.At()) && IsDestructible(item);
+    if (met && !checked.Meet(item.Present)) return;
   }
 }
 
 /// These kill whether they are shown or not, and whatever the snake carries.
-void CheckHardUserWalls(const Blaster& blaster) {
-  State& state = blaster.game.state;
+void CheckHardUserWalls(const CheckedSnake& checked) {
+  State& state = checked.game.state;
   for (const UserItemRec& item : Slots(state.UserItems, 1, state.numUserItems)) {
-    if (!blaster.Touches(item.At()) || !IsIndestructible(item)) continue;
-    KillSnake(blaster.game, blaster.snake, DeathCause::kWall);
+    if (!checked.Touches(item.At()) || !IsIndestructible(item)) continue;
+    KillSnake(checked.game, checked.number, DeathCause::kWall);
     return;
   }
 }
@@ -79,13 +79,13 @@ void WallCheck(Game& game) {
   int blasts = 0;
   for (int s = 1; s <= SnakesInPlay(state); ++s) {
     if (state.Snakes(s).Immortal) continue;
-    const Blaster blaster{game, s, blasts};
-    CheckWalls(blaster);
+    const CheckedSnake checked{game, s, blasts};
+    CheckWalls(checked);
     if (state.level.UserItemsUsed) {
-      CheckUserWalls(blaster);
-      CheckHardUserWalls(blaster);
+      CheckUserWalls(checked);
+      CheckHardUserWalls(checked);
     }
-    if (blasts == 1) blaster.SpendCharge();
+    if (blasts == 1) checked.SpendCharge();
   }
 }
 

@@ -34,7 +34,7 @@ std::span<const Goal> Appetite::Look(const State& state, int snake) {
 
 void Appetite::Add(const State& state, ItemKind kind, int worth) {
   const ItemList& items = state.Items(kind);
-  const Reach reach = MealReach(kind);
+  const Reach reach = EatingReach(kind);
   for (const ItemRec& item : Slots(items.slots, 1, items.count)) {
     if (!item.Present) continue;
     goals_[count_++] = {item.At(), reach, static_cast<std::uint8_t>(worth)};

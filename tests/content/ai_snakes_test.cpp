@@ -63,9 +63,9 @@ TEST(ChooseAiModel, DrawsWhenAllModelsAreHeld) {
   state.LastModel = 2;
   state.Snakes(1).Model = 1;
   state.Snakes(2).Model = 2;
-  std::set<int> drawn;
-  for (int i = 0; i < 100; ++i) drawn.insert(ChooseAiModel(state));
-  EXPECT_EQ(drawn, (std::set<int>{0, 1, 2}));
+  std::set<int> chosen;
+  for (int i = 0; i < 100; ++i) chosen.insert(ChooseAiModel(state));
+  EXPECT_EQ(chosen, (std::set<int>{0, 1, 2}));
   state.LastModel = -1;
   EXPECT_EQ(ChooseAiModel(state), 0);
 }

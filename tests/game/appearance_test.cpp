@@ -5,7 +5,7 @@
 namespace coilrun {
 namespace {
 
-TEST(DrawAppearances, AbsentItemsMoveEveryTimeAndComeBackByTheirRates) {
+TEST(RollAppearances, AbsentItemsMoveEveryTimeAndComeBackByTheirRates) {
   using Row = std::tuple<ItemKind, bool, double, bool, bool>;
   const Row rows[] = {{ItemKind::kBlue, false, 1, true, false},
                       {ItemKind::kBlack, true, 1, false, false},
@@ -19,7 +19,7 @@ TEST(DrawAppearances, AbsentItemsMoveEveryTimeAndComeBackByTheirRates) {
     field.state.level.powerRate = rate;
     ItemRec& item = field.Item(kind, {-7, -7});
     item.Present = false;
-    DrawAppearances(field.state);
+    RollAppearances(field.state);
     EXPECT_EQ(item.X != -7, moves) << static_cast<int>(kind);
     EXPECT_EQ(item.Present, returns) << static_cast<int>(kind) << ' ' << rate;
   }

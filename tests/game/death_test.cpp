@@ -24,10 +24,10 @@ TEST(DeathMessage, ByCauseDrawAndCount) {
                       {DeathCause::kEdge, 1, 1, 1, "Ann didn't see the wall."},
                       {DeathCause::kEdge, 1, 2, 1, "A wall stopped Ann"},
                       {DeathCause::kEdge, 1, 3, 1, "Ann, tried to walk through a wall"}};
-  for (const auto& [cause, killer, draw, deaths, text] : rows) {
+  for (const auto& [cause, killer, roll, deaths, text] : rows) {
     Field field;
     field.Player().Deaths = deaths;
-    EXPECT_EQ(DeathMessage(field.Player(), cause, field.Snake(killer), draw), text);
+    EXPECT_EQ(DeathMessage(field.Player(), cause, field.Snake(killer), roll), text);
   }
 }
 
@@ -84,10 +84,10 @@ TEST(KillSnake, SinglePlayCostsALifeAndRestartsTheClock) {
   EXPECT_EQ(field.state.CenterLines(0).Text, "");
 }
 
-TEST(KillSnake, AMatchTakesTheHarvestInsteadOfALife) {
+TEST(KillSnake, AMatchTakesTheItemCountsInsteadOfALife) {
   Field field;
   field.state.mode.GameMode = GameMode::kDeathmatch;
-  field.Draws([](Rnd rnd) { return rnd.Below(3) == 1; });
+  field.Rolls([](Rnd rnd) { return rnd.Below(3) == 1; });
   EXPECT_EQ(Kill(field, 1),
             "1.At=100,100 1.Deaths=1 1.Dir=none 1.Grow=0 1.Immortal=0 1.ImmortalSecs=0 1.Length=1 "
             "1.NextDir=none 1.TNT=0 1.Tail=none 1.Timer=90 1.YellowEaten=0 SpeedGain=0 "

@@ -46,11 +46,11 @@ TEST(EatItems, EveryKindHasItsEffect) {
   constexpr auto kSlow = [](Field& field) {
     field.state.timers.SetInterval(field.state.timers.iWait(0), 10);
     field.state.level.HideCollected = true;
-    field.Draws([](Rnd r) { return r.Below(2) == 1 && r.Below(150) == 50 && r.Below(6) == 0; });
+    field.Rolls([](Rnd r) { return r.Below(2) == 1 && r.Below(150) == 50 && r.Below(6) == 0; });
   };
   constexpr auto kRob = [](Field& field) {
     field.state.level.HideCollected = true;
-    field.Draws([](Rnd r) { return r.Below(2) == 0 && r.Below(50) == 49; });
+    field.Rolls([](Rnd r) { return r.Below(2) == 0 && r.Below(50) == 49; });
   };
   using Row = std::tuple<ItemKind, int, void (*)(Field&), std::string>;
   using enum ItemKind;
@@ -124,7 +124,7 @@ TEST(EatItems, RedSpeedsUpByThePeriodOfTheTimer) {
     field.state.settings.NoSpeedReset = keeps;
     field.state.settings.PrevInterval = -1;
     field.state.timers.SetInterval(field.state.timers.iWait(0), timer);
-    field.Draws([wanted = cut](Rnd rnd) { return rnd.Below(30) == wanted && rnd.Below(6) == 3; });
+    field.Rolls([wanted = cut](Rnd rnd) { return rnd.Below(30) == wanted && rnd.Below(6) == 3; });
     const std::string period = std::to_string(interval);
     EXPECT_EQ(Eat(field, ItemKind::kRed),
               "1.Interval=" + period + " 1.Length=2 1.RedEaten=1 1.Score=30 1.Timer=" + period +

@@ -121,8 +121,8 @@ struct Field {
     return static_cast<int>(std::count_if(state.Walls.begin(), state.Walls.end(),
                                           [](const WallRec& wall) { return wall.Present; }));
   }
-  /// Finds a generator that draws what `wanted` asks of it.
-  void Draws(const std::function<bool(Rnd)>& wanted) {
+  /// Finds a generator that rolls what `wanted` asks of it.
+  void Rolls(const std::function<bool(Rnd)>& wanted) {
     for (std::uint64_t seed = 0; !wanted(state.Rnd); ++seed) state.Rnd.Reseed(seed);
   }
   /// Plays a rule and tells in one line what it changed: facts that have another value now, then

@@ -62,7 +62,7 @@ TEST(SpeedReset, GivesTheNormalPeriodBack) {
     field.state.level.HideCollected = hides;
     ItemRec& first = field.Item(ItemKind::kRed, {300, 300});
     first.Present = false;
-    field.Draws([](Rnd rnd) { return rnd.Below(5) == 2; });
+    field.Rolls([](Rnd rnd) { return rnd.Below(5) == 2; });
     SpeedReset(field.state);
     EXPECT_EQ(timers.iWait(0).Interval, interval) << keeps << option << hides;
     EXPECT_EQ(first.Present, red) << keeps << option << hides;

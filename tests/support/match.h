@@ -22,7 +22,7 @@ struct Career {
   int byEdge = 0;
   int byItself = 0;
   int byOthers = 0;
-  int meals = 0;
+  int eaten = 0;
 
   int Deaths() const { return byWall + byEdge + byItself + byOthers; }
 };
@@ -94,7 +94,7 @@ class Match final : private GameHost, private TimerHandlers {
 
  private:
   void PlayEffect(std::string_view path, int snake) override {
-    if (path.ends_with("collect.wav")) ++careers_(snake).meals;
+    if (path.ends_with("collect.wav")) ++careers_(snake).eaten;
     if (path.ends_with("wall.wav")) CountDeath(snake);
   }
   void DrawFrame() override {}

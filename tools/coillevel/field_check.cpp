@@ -117,7 +117,7 @@ class FieldCheck {
   /// True when an item of the kind can lie where a head from one of these places eats it.
   bool CanTake(ItemKind kind, const PixelMarks& places) const {
     if (!Holds(kind)) return false;
-    const auto inReach = [&](Point item) { return places.AnyTouches(MealReach(kind), item); };
+    const auto inReach = [&](Point item) { return places.AnyTouches(EatingReach(kind), item); };
     return std::any_of(spawnPoints_.begin(), spawnPoints_.end(), inReach) ||
            std::any_of(spots_.begin(), spots_.end(), inReach);
   }
@@ -166,7 +166,7 @@ class FieldCheck {
   std::optional<ItemKind> OutOfReach(Point item, const PixelMarks& places) const {
     for (int number = 0; number < kItemKinds; ++number) {
       const auto kind = static_cast<ItemKind>(number);
-      if (Holds(kind) && !places.AnyTouches(MealReach(kind), item)) return kind;
+      if (Holds(kind) && !places.AnyTouches(EatingReach(kind), item)) return kind;
     }
     return std::nullopt;
   }
