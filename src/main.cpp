@@ -40,12 +40,6 @@ PlatformOptions OptionsFor(const HostOptions& options, StopSignals& signals) {
   return wanted;
 }
 
-Ports With(const CommonPorts& common, KeySource& keys, MessageBox& box) {
-  return {common.clock,    common.screen, keys,         box,
-          common.audio,    common.music,  common.files, common.archive,
-          common.settings, common.text};
-}
-
 int RunProgram(State& state, const Ports& ports, const HostOptions& options) {
   state.more.isClassic = options.classic;
   try {
@@ -64,7 +58,7 @@ int PlayInWindow(const HostOptions& options) {
   const auto state = std::make_unique<State>();
   state->clockSeed = options.seed;
   StoppableKeys keys(signals, made.platform->Keys());
-  return RunProgram(*state, With(made.platform->Common(), keys, made.platform->Boxes()), options);
+  return RunProgram(*state, {made.platform->Common(), keys, made.platform->Boxes()}, options);
 }
 
 int PlayHeadless(const HostOptions& options) {
@@ -85,7 +79,7 @@ int PlayHeadless(const HostOptions& options) {
   ScriptPlayer player(*std::move(loaded.script), {*state, common.clock, common.music,
                                                   made.platform->Pictures(), trace, std::cerr});
   StoppableKeys keys(signals, player);
-  const int exitCode = RunProgram(*state, With(common, keys, player), options);
+  const int exitCode = RunProgram(*state, {common, keys, player}, options);
   trace.flush();
   return trace ? exitCode : Complain("cannot write the trace", kWrongUse);
 }

@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdint>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 #include "model/saturating.h"
@@ -15,14 +16,31 @@ inline constexpr int kMaxPeople = 4;
 
 /// How presses between two steps count: the last one, or one after the other.
 enum class TurnsMode : std::uint8_t { kLast, kQueue };
+template <>
+inline constexpr WordList<2> kWords<TurnsMode>{"last", "queue"};
+
 /// How heads and tails are drawn between two steps.
 enum class MotionMode : std::uint8_t { kSteps, kSmooth };
+template <>
+inline constexpr WordList<2> kWords<MotionMode>{"steps", "smooth"};
+
 enum class EffectsMode : std::uint8_t { kOff, kCalm, kFull };
+template <>
+inline constexpr WordList<3> kWords<EffectsMode>{"off", "calm", "full"};
+
 /// Who steers a computer snake.
 enum class RivalKind : std::uint8_t { kClassic, kClever, kMaster };
+template <>
+inline constexpr WordList<3> kWords<RivalKind>{"classic", "clever", "master"};
+
 /// The menu pages beside main page, options and high scores.
 enum class MorePage : std::uint8_t { kNone, kMore, kMatch, kControls, kReplays };
+template <>
+inline constexpr WordList<5> kWords<MorePage>{"", "more", "match", "controls", "replays"};
+
 enum class MatchMode : std::uint8_t { kCampaign, kDeathmatch, kHunting };
+template <>
+inline constexpr WordList<3> kWords<MatchMode>{"campaign", "deathmatch", "hunting"};
 
 /// The kinds that the computer snakes are dealt in turn; never empty.
 struct RivalList {
@@ -85,26 +103,6 @@ struct Person {
   bool Out = false;  ///< without lives until the next level
 };
 
-/// The words as settings, scripts and traces write them.
-std::string_view Word(TurnsMode mode);
-std::string_view Word(MotionMode mode);
-std::string_view Word(EffectsMode mode);
-std::string_view Word(RivalKind kind);
-std::string_view Word(MorePage page);
-std::string_view Word(MatchMode mode);
-template <>
-std::optional<TurnsMode> FromWord<TurnsMode>(std::string_view word);
-template <>
-std::optional<MotionMode> FromWord<MotionMode>(std::string_view word);
-template <>
-std::optional<EffectsMode> FromWord<EffectsMode>(std::string_view word);
-template <>
-std::optional<RivalKind> FromWord<RivalKind>(std::string_view word);
-template <>
-std::optional<MorePage> FromWord<MorePage>(std::string_view word);
-template <>
-std::optional<MatchMode> FromWord<MatchMode>(std::string_view word);
-
 /// "classic,master"; nothing for a list with an unknown or an empty word.
 std::string RivalText(const RivalList& rivals);
 std::optional<RivalList> RivalsFromText(std::string_view text);
@@ -120,12 +118,9 @@ bool CanSteer(int code);
 SteeringKeys BuiltInKeys(int person);
 
 /// The four lists of a person's keys by the direction that they steer to.
-inline const std::vector<int>& KeysOf(const SteeringKeys& keys, Dir dir) {
-  if (dir == Dir::kForw) return keys.Up;
-  if (dir == Dir::kBack) return keys.Down;
-  return dir == Dir::kLeft ? keys.Left : keys.Right;
-}
-inline std::vector<int>& KeysOf(SteeringKeys& keys, Dir dir) {
+template <typename Keys>
+requires std::is_same_v<std::remove_const_t<Keys>, SteeringKeys>
+auto& KeysOf(Keys& keys, Dir dir) {
   if (dir == Dir::kForw) return keys.Up;
   if (dir == Dir::kBack) return keys.Down;
   return dir == Dir::kLeft ? keys.Left : keys.Right;

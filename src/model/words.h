@@ -1,11 +1,12 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <string_view>
 
 #include "model/saturating.h"
+#include "model/word_table.h"
 
 namespace coilrun {
 
@@ -27,25 +28,38 @@ enum class Dir : std::uint8_t {
   kRF,
   kRB
 };
+template <>
+inline constexpr WordList<13> kWords<Dir>{"",   "Forw", "Back", "Left", "Right", "FL", "FR",
+                                          "BL", "BR",   "LF",   "LB",   "RF",    "RB"};
 inline constexpr int kDirs = 13;
 
 /// Kinds of walls by the picture that they show.
 enum class WallKind : std::uint8_t { kNone, kV, kH, kVL, kVR, kHT, kHB, kS };
+template <>
+inline constexpr WordList<8> kWords<WallKind>{"", "v", "h", "v_l", "v_r", "h_t", "h_b", "s"};
 
 /// The six kinds of items, in the order in which they are eaten and placed.
 enum class ItemKind : std::uint8_t { kYellow, kRed, kBlue, kBlack, kTnt, kPower };
 inline constexpr int kItemKinds = 6;
 
 enum class GameMode : std::uint8_t { kSingle, kDeathmatch, kNetDeathmatch };
+template <>
+inline constexpr WordList<3> kWords<GameMode>{"", "DM", "NDM"};
 
 /// What the options page is asked to do with the line under its cursor.
 enum class MenuAction : std::uint8_t { kNone, kCycle, kMinus, kPlus };
+template <>
+inline constexpr WordList<4> kWords<MenuAction>{"", "cycle", "-", "+"};
 
 /// What typed characters edit.
 enum class InputTarget : std::uint8_t { kNone, kPlayerName, kCheat, kScoreName };
+template <>
+inline constexpr WordList<4> kWords<InputTarget>{"", "PlayerName", "Cheat", "ScoreName"};
 
 /// Where the keys of typed text have their characters from.
 enum class KeyboardLayout : std::uint8_t { kUs, kDe };
+template <>
+inline constexpr WordList<2> kWords<KeyboardLayout>{"US", "DE"};
 
 /// What a user item is: a still or a moving picture, drawn alone, or a wall that TNT blows, or one
 /// that it does not. `kNone` is neither drawn nor met.
@@ -58,6 +72,9 @@ enum class UserItemType : std::uint8_t {
   kMovingWall,
   kMovingHardWall
 };
+template <>
+inline constexpr WordList<7> kWords<UserItemType>{
+    "", "wall_", "wall", "wall_no_tnt", "ani_wall_", "ani_wall", "ani_wall_no_tnt"};
 
 /// Who has a spawn point.
 struct SpawnUse {
@@ -85,30 +102,8 @@ constexpr bool IsMoving(UserItemType type) {
   return type >= UserItemType::kMovingPicture;
 }
 
-/// The words as files, scripts and traces write them; "" for `kNone`.
-std::string_view Word(Dir dir);
-std::string_view Word(WallKind kind);
-std::string_view Word(GameMode mode);
-std::string_view Word(MenuAction action);
-std::string_view Word(InputTarget target);
-std::string_view Word(KeyboardLayout layout);
-std::string_view Word(UserItemType type);
 /// "" free, a slot number: taken, "new": its item was just eaten.
 std::string Word(SpawnUse use);
-
-/// The value with exactly this word: FromWord<Dir>("Left").
-template <typename Enum>
-std::optional<Enum> FromWord(std::string_view word);
-template <>
-std::optional<Dir> FromWord<Dir>(std::string_view word);
-template <>
-std::optional<WallKind> FromWord<WallKind>(std::string_view word);
-template <>
-std::optional<GameMode> FromWord<GameMode>(std::string_view word);
-template <>
-std::optional<MenuAction> FromWord<MenuAction>(std::string_view word);
-template <>
-std::optional<InputTarget> FromWord<InputTarget>(std::string_view word);
 
 /// What any text at all stands for where a value is written freely.
 template <typename T>

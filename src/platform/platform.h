@@ -6,17 +6,8 @@
 #include <optional>
 #include <string>
 
-#include "ports/archive.h"
-#include "ports/audio_out.h"
-#include "ports/clock.h"
-#include "ports/files.h"
-#include "ports/key_source.h"
-#include "ports/message_box.h"
-#include "ports/music_out.h"
 #include "ports/picture_sink.h"
-#include "ports/screen.h"
-#include "ports/settings_store.h"
-#include "ports/text_face.h"
+#include "ports/ports.h"
 
 namespace coilrun {
 
@@ -35,18 +26,6 @@ struct PlatformOptions {
   /// Takes one line for each thing that is wrong but does not end the game (a damaged settings
   /// file, missing fonts); each is reported once.
   std::function<void(const std::string& line)> report = [](const std::string&) {};
-};
-
-/// The ports that every run has; they live as long as their platform.
-struct CommonPorts {
-  Clock& clock;
-  Screen& screen;
-  AudioOut& audio;
-  MusicOut& music;
-  Files& files;
-  Archive& archive;
-  SettingsStore& settings;
-  TextFace& text;
 };
 
 class Platform {

@@ -13,18 +13,22 @@
 
 namespace coilrun {
 
-/// Everything that the program needs of a machine.
-struct Ports {
+/// The ports that every run has; they live as long as their platform.
+struct CommonPorts {
   Clock& clock;
   Screen& screen;
-  KeySource& keys;
-  MessageBox& box;
   AudioOut& audio;
   MusicOut& music;
   Files& files;
   Archive& archive;
   SettingsStore& settings;
   TextFace& text;
+};
+
+/// Everything that the program needs of a machine.
+struct Ports : CommonPorts {
+  KeySource& keys;
+  MessageBox& box;
 };
 
 }  // namespace coilrun
