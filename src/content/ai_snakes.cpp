@@ -15,8 +15,8 @@ constexpr std::size_t kMaxNames = 99;
 
 using Names = std::vector<std::string>;
 
-/// The lines of the file of names that are not blank; none without the file, nothing when the file
-/// holds no line at all.
+/// The non-blank lines of the names file: an empty list when there is no such file, nothing when
+/// the file has no lines at all.
 std::optional<Names> LoadAiNames(const Files& files) {
   const auto file = files.Read(InProgramFolder("\\AI_Names.lst"));
   if (!file) return Names{};

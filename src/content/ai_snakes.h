@@ -5,11 +5,11 @@
 
 namespace coilrun {
 
-/// Prepares snakes 2 to `NumSnakes`: direction, start, speed, model, name, step timer. False when
-/// the file of names exists but holds no line; nothing is prepared then.
+/// Prepares snakes 2 to `NumSnakes`: direction, start, speed, model, name, step timer. False, and
+/// nothing is prepared, when the names file exists but has no lines.
 bool SetupAiSnakes(State& state, const Files& files);
 
-/// The lowest model that no snake has, else any.
+/// The lowest model that no snake has; a random one when all are taken.
 int ChooseAiModel(State& state);
 
 }  // namespace coilrun

@@ -34,7 +34,7 @@ bool IsPlainName(std::string_view name) {
   return true;
 }
 
-/// An entry that is no folder; only files are listed.
+/// True for an entry that is not a folder; only files are listed.
 bool IsFileName(std::string_view name) {
   return name.find('.') != name.npos;
 }
@@ -92,8 +92,8 @@ class Unpacking {
   }
 
  private:
-  /// What the list will hold when every entry can be unpacked: written before the first of them, it
-  /// lets a later run clean up after one that was killed.
+  /// What the list will hold if every entry can be unpacked. It is written before the first of
+  /// them, so that a later run can clean up after one that was killed.
   std::optional<std::string> PlannedList() const {
     Walk walk(context_.archive, archive_, password_);
     if (!walk.Opened()) return std::nullopt;
@@ -157,8 +157,8 @@ class Unpacking {
   UnpackResult result_;
 };
 
-/// The program and what came with it, the player's settings, and what other running games unpack
-/// into folders of their own here: no list can be right that names one of these.
+/// True for the program and what came with it, the player's settings, and what other running games
+/// unpack into folders of their own here: a list that names one of these is wrong.
 bool IsShipped(std::string_view shortName) {
   constexpr std::array<std::string_view, 5> kBeginnings = {".\\coilrun", ".\\lvl\\", ".\\models\\",
                                                            ".\\music\\", ".\\fonts\\"};
@@ -170,7 +170,7 @@ bool IsShipped(std::string_view shortName) {
          std::find(kFiles.begin(), kFiles.end(), shortName) != kFiles.end();
 }
 
-/// Deletes the files that the lists name, then the lists; tells whether a list went away.
+/// Deletes the files that the lists name, then the lists; returns whether any list was deleted.
 bool DeleteListedFiles(Files& files) {
   std::vector<std::string> lists =
       files.List(InProgramFolder({}), kListSuffix).value_or(std::vector<std::string>{});
@@ -203,7 +203,7 @@ void CleanUpFiles(const ContentContext& context) {
   state.shell.Running = false;
   if (state.settings.NewInstall) context.host.StoreSetting("NewInstall", "False");
   if (!state.settings.NoCleanUp) {
-    // Both roots may hold a list of the same name: the one behind shows when the first is gone.
+    // Both roots may hold a list of the same name: the second shows only when the first is gone.
     while (DeleteListedFiles(context.files)) {
     }
   }

@@ -8,7 +8,7 @@
 
 namespace coilrun {
 
-/// What loading content works with. Made once by the shell; everything in it outlives it.
+/// What the loading of content works with. Made once by the shell; everything in it outlives it.
 struct ContentContext {
   State& state;
   Files& files;

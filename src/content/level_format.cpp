@@ -56,7 +56,7 @@ constexpr std::array<WallCode, 7> kWallCodes = {{{'|', WallKind::kV},
                                                  {'.', WallKind::kHB},
                                                  {'+', WallKind::kS}}};
 
-/// Snakes 1 to 16 start where the map shows these words.
+/// Snakes 1 to 16 start where the map has these words.
 constexpr std::string_view kStartCodes = "S123456789ABCDEF";
 
 bool IsMapLetter(char character) {
@@ -68,7 +68,7 @@ std::optional<LevelValue> NumberValue(std::optional<int> number) {
   return LevelValue{.number = static_cast<double>(*number)};
 }
 
-/// "set:" and "let:": the letter, one character that is not looked at, the text.
+/// "set:" and "let:": the letter, one character that is ignored, the text.
 std::optional<LevelValue> UserItemValue(std::string_view rest) {
   constexpr std::size_t kTextAt = 2;
   if (rest.size() < kTextAt) return std::nullopt;

@@ -10,7 +10,7 @@
 
 namespace coilrun {
 
-/// The first lines of a level file are rows of its map; every line may hold a key besides.
+/// The first lines of a level file are the rows of its map; any line may also hold a key.
 inline constexpr int kMapRows = 22;
 
 enum class CellKind : std::uint8_t { kWall, kStart, kUserItem, kSpawnPoint };
@@ -26,14 +26,14 @@ struct CellCode {
 /// The cell code that is exactly this word.
 std::optional<CellCode> CodeOf(std::string_view word);
 
-/// Where a code in column and row (from 1) places its thing, in pixels.
+/// Where a code in this column and row (from 1) places its thing, in pixels.
 Point AnchorOf(CellKind kind, int column, int row);
 
-/// Called for each closed cell of a row that is not empty; false ends the scan.
+/// Called for each non-empty cell of a row once it is closed; false ends the scan.
 using CellVisitor = std::function<bool(int column, std::string_view word)>;
 
-/// Scans a map row: each blank closes a cell, and the last character of the line is not examined.
-/// False when the visitor ended it.
+/// Scans a map row: each blank closes a cell, and the last character of the line is ignored. False
+/// when the visitor ended the scan.
 bool ScanRow(std::string_view line, const CellVisitor& visit);
 
 /// The keys of a level file, in the order in which they are tested on every line.
@@ -75,7 +75,7 @@ enum class LevelKey : std::uint8_t {
 enum class ValueKind : std::uint8_t {
   kInteger,   ///< 16 bits, halves to even
   kLong,      ///< 32 bits, halves to even
-  kReal,      ///< a number, unrounded
+  kReal,      ///< a number, not rounded
   kTrueFlag,  ///< set by exactly "True"
   kBoolean,   ///< "True", "False" in any letter case, or a number
   kText,      ///< as it stands
@@ -87,7 +87,7 @@ struct KeyDef {
   LevelKey key;
   std::string_view text;
   ValueKind kind;
-  bool skipsOne = false;  ///< the first character after the key is no part of the value
+  bool skipsOne = false;  ///< the first character after the key is not part of the value
 };
 
 /// All keys; slot n holds the key with number n.
@@ -97,7 +97,7 @@ const KeyDef& DefOf(LevelKey key);
 /// True when the line begins with the key.
 bool HasKey(const KeyDef& def, std::string_view line);
 
-/// A value, as far as its kind fills it.
+/// A value; its kind says which fields are filled.
 struct LevelValue {
   double number = 0;
   bool flag = false;
@@ -105,7 +105,7 @@ struct LevelValue {
   char letter = 0;  ///< user item lines: the letter in upper case; 0 when the line is ignored
 };
 
-/// Reads the value of a line that has the key; nothing when it makes the level unloadable.
+/// Reads the value from a line that has the key; nothing when the value makes the level unloadable.
 std::optional<LevelValue> ReadValue(const KeyDef& def, std::string_view line);
 
 }  // namespace coilrun

@@ -7,8 +7,8 @@
 
 namespace coilrun {
 
-/// Reads the text of one level file into the state, line by line, applying each cell and key at
-/// once. The state has been reset.
+/// Reads the text of one level file into the state, line by line, and applies each cell and key at
+/// once. The state must have been reset.
 class LevelReader {
  public:
   explicit LevelReader(const ContentContext& context) : context_(context), state_(context.state) {}

@@ -11,8 +11,8 @@ namespace coilrun {
 /// The text of a file; valid as long as the bytes are.
 std::string_view TextOf(const Bytes& bytes);
 
-/// Hands out the lines of a text one by one, without their ends (CR LF or LF; the last line may
-/// lack one). The text outlives the reader.
+/// Hands out the lines of a text one by one, without their line ends (CR LF or LF; the last line
+/// may lack one). The text must outlive the reader.
 class LineReader {
  public:
   explicit LineReader(std::string_view text) : rest_(text) {}

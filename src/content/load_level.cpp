@@ -34,7 +34,7 @@ void ClearField(State& state) {
   }
 }
 
-/// Back to the start cells of the level before: the new ones are not known yet.
+/// Puts a snake back on its start cell in the previous level: the new one is not known yet.
 void ResetSnake(State& state, int number) {
   SnakeRec& snake = state.Snakes(number);
   snake.Dir = Dir::kNone;
@@ -79,7 +79,7 @@ void ResetMenus(MenuState& menus) {
   menus.StatusText = "Welcome to Coilrun";
 }
 
-/// What the map and the keys of the new level add to.
+/// Empties what the map and the keys of the new level will add to.
 void ResetTables(State& state) {
   constexpr Point kDefaultStart{310, 230};
   state.numSpawnPoints = 0;
@@ -114,7 +114,7 @@ bool LoadPictures(const ContentContext& context) {
   return !state.level.UserItemsUsed || LoadUserItems(context);
 }
 
-/// The AI snakes that the command line or the level asks for, as far as the map has starts.
+/// Sets up the AI snakes that the command line or the level asks for, as far as the map has starts.
 bool SetupSnakes(const ContentContext& context) {
   State& state = context.state;
   ModeState& mode = state.mode;

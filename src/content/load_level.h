@@ -7,11 +7,12 @@
 namespace coilrun {
 
 /// Makes a level file (a game path: ".\lvl\lvl1.dat") the level in play: reads it, unpacks what it
-/// requires, places the items, loads its pictures, sets the snakes up and arms the level screen.
-/// Whatever goes wrong ends in the menus with a line that names the level, `NoGameRunning` set.
+/// requires, places the items, loads its pictures, sets up the snakes and readies the level screen.
+/// If anything goes wrong, the menus open with a line that names the level, and `NoGameRunning` is
+/// set.
 void LoadLevel(const ContentContext& context, const std::string& path);
 
-/// Empties the level and takes the snakes back to their starts; reads the settings anew.
+/// Empties the level, puts the snakes back on their starts and reads the settings again.
 void ResetLevelState(const ContentContext& context);
 
 }  // namespace coilrun

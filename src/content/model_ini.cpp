@@ -25,7 +25,7 @@ constexpr std::array<FlagKey, 3> kFlagKeys = {{{"EDGES=", 0, &ModelPack::Edges},
                                                {"EDGES_INVERS", 1, &ModelPack::EdgesInverse},
                                                {"TAIL_EDGES", 1, &ModelPack::TailEdges}}};
 
-/// What follows the key and the characters skipped after it; nothing without the key.
+/// What follows the key and the characters skipped after it; nothing when the key is absent.
 std::optional<std::string_view> ValueAfter(std::string_view line, std::string_view key,
                                            std::size_t skipped) {
   if (!line.starts_with(key)) return std::nullopt;

@@ -8,10 +8,10 @@
 namespace coilrun {
 
 /// Reads the description of a model pack: "NAME=", "AUTHOR=", "EDGES=", "EDGES_INVERS=" and
-/// "TAIL_EDGES=" lines. What it does not say stays as it is.
+/// "TAIL_EDGES=" lines. What it leaves out stays as it is.
 void ReadModelIni(std::string_view text, ModelPack& pack);
 
-/// A pack without a description: called by its folder, with corners of body and tail.
+/// A pack without a description: named after its folder, with corners for body and tail.
 ModelPack UndescribedPack(const std::string& file, const std::string& dir);
 
 }  // namespace coilrun

@@ -15,7 +15,7 @@ namespace coilrun {
 namespace {
 
 constexpr std::string_view kSuffix = ".smp";
-/// Progress steps that a pack counts for.
+/// How many progress steps a pack counts for.
 constexpr int kStepsAPack = 32;
 
 std::string DirOf(const std::string& file) {
@@ -38,7 +38,7 @@ class PackLoading {
       Report("Model pack " + files_.at(kMaxModelPacks) + " and all after it: only " +
              std::to_string(kMaxModelPacks) + " packs can be used");
     }
-    // At the end, so that lines about missing pictures do not push these out of the console.
+    // Comes last, so that lines about missing pictures do not push these out of the console.
     for (const std::string& fault : faults_) ConsolePrint(state_, fault);
   }
 

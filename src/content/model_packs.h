@@ -5,7 +5,7 @@
 namespace coilrun {
 
 /// Finds the model packs, unpacks them (only before the display is ready), reads their descriptions
-/// and loads their pictures. A pack that is no good costs a line on the console, nothing else.
+/// and loads their pictures. A bad pack costs a line on the console and nothing else.
 void SnGetModelPacks(const ContentContext& context);
 
 }  // namespace coilrun

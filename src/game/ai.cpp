@@ -12,11 +12,11 @@ namespace {
 
 /// Targets must be nearer than this.
 constexpr int kFarAway = 20000;
-/// Walls that AI snakes see, standing or not, whatever the level's own count.
+/// How many walls AI snakes see, standing or not, however many the level has.
 constexpr int kWallsSeen = 200;
 
-/// The nearest coloured item by the steps to it, present or not; (0, 0) without one. The first of
-/// equals is taken.
+/// The coloured item that is the fewest steps away, present or not; (0, 0) if there is none. Among
+/// equals the first is taken.
 Point NearestTarget(const State& state, Point head) {
   Point nearest;
   int best = kFarAway;
@@ -32,7 +32,7 @@ Point NearestTarget(const State& state, Point head) {
   return nearest;
 }
 
-/// Closes the larger distance first; `kNone` at the target itself.
+/// Covers the longer of the two distances first; `kNone` at the target itself.
 Dir Toward(Point target, Point head) {
   const int dx = std::abs(target.x - head.x);
   const int dy = std::abs(target.y - head.y);
@@ -41,7 +41,7 @@ Dir Toward(Point target, Point head) {
   return target.y < head.y ? Dir::kForw : Dir::kBack;
 }
 
-/// Where a snake turns that runs along `heading` into the edge of the field; else `wanted`.
+/// Where a snake turns when `heading` takes it to the edge of the field; otherwise `wanted`.
 Dir TurnedAtEdge(Dir wanted, Dir heading, Point head) {
   switch (heading) {
     case Dir::kLeft:
@@ -82,7 +82,7 @@ bool Blocked(const State& state, int snake, Point probe) {
   return false;
 }
 
-/// The swerve from an obstacle straight ahead.
+/// Where a snake swerves when an obstacle lies straight ahead.
 Dir Swapped(Dir wanted) {
   switch (wanted) {
     case Dir::kLeft:
@@ -98,7 +98,7 @@ Dir Swapped(Dir wanted) {
   }
 }
 
-/// Where a snake turns that would otherwise reverse on the spot.
+/// Where a snake turns instead of reversing on the spot.
 Dir Sidestep(Dir heading, Point target, Point head) {
   if (heading == Dir::kLeft || heading == Dir::kRight) {
     return target.y < head.y ? Dir::kForw : Dir::kBack;

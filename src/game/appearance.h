@@ -4,8 +4,8 @@
 
 namespace coilrun {
 
-/// The rolls that let blue, black, TNT and power items come and go: once a player step. An absent
-/// item gets a new place every time, whether it comes back or not.
+/// Rolls which blue, black, TNT and power items come and go: once per player step. An absent item
+/// gets a new place every time, whether it comes back or not.
 void RollAppearances(State& state);
 
 }  // namespace coilrun

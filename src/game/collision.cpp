@@ -11,7 +11,7 @@
 namespace coilrun {
 namespace {
 
-/// Points and growth that a kill brings on top of the victim's length.
+/// The points and growth that a kill brings on top of the victim's length.
 constexpr int kKillBonus = 2;
 
 void CheckEdge(Game& game, int snake) {
@@ -35,7 +35,7 @@ bool HitsBody(const SnakeRec& mover, const SnakeRec& body) {
   });
 }
 
-/// Counts a kill after the victim's respawn, so by the length that this has left it.
+/// Rewards a kill after the victim's respawn, and so by the length that the victim has then.
 void RewardKill(State& state, int killer, int victim) {
   SnakeRec& winner = state.Snakes(killer);
   const int prize = state.Snakes(victim).Length + kKillBonus;

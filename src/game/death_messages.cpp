@@ -3,9 +3,9 @@
 namespace coilrun {
 namespace {
 
-/// From this many deaths on, a wall is worth the count.
+/// From this many deaths on, the message about a wall tells their number.
 constexpr int kManyWallDeaths = 11;
-/// From this many deaths on, another snake is.
+/// From this many deaths on, the message about another snake does.
 constexpr int kManySnakeDeaths = 4;
 
 std::string WallMessage(const std::string& name, int deaths, int roll) {

@@ -6,8 +6,8 @@
 
 namespace coilrun {
 
-/// What the feed says of a death in a match. `roll` is 1 to 3; `other` is the dying snake itself
-/// for its own body.
+/// What the feed says about a death in a match. `roll` is 1 to 3; `other` is the dying snake itself
+/// when it hit its own body.
 std::string DeathMessage(const SnakeRec& victim, DeathCause cause, const SnakeRec& other, int roll);
 
 }  // namespace coilrun

@@ -6,17 +6,17 @@
 
 namespace coilrun {
 
-/// Steers snakes: asked before each step of a snake where it goes.
+/// Steers snakes: is asked before each step of a snake where it should go.
 class Driver {
  public:
   virtual ~Driver() = default;
 
   /// Where `snake`, 2 to 16, wants to go; `kNone` leaves its direction as it is. The same state
-  /// gives the same answer, and nothing of it changes but `TargetReached`.
+  /// gives the same answer, and only `TargetReached` in it changes.
   virtual Dir Choose(State& state, int snake) = 0;
 };
 
-/// The rule that computer snakes follow unless somebody else drives them: `AIChoose`.
+/// The rule that computer snakes follow unless another driver steers them: `AIChoose`.
 class ClassicDriver final : public Driver {
  public:
   Dir Choose(State& state, int snake) override;

@@ -8,7 +8,7 @@ namespace coilrun {
 /// How far from an item of this kind a head eats it.
 Reach EatingReach(ItemKind kind);
 
-/// Lets a snake eat every item that its head reaches, with all that follows.
+/// Lets a snake eat every item that its head reaches, with all the effects.
 void EatItems(Game& game, int snake);
 
 }  // namespace coilrun

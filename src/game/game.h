@@ -7,7 +7,8 @@
 
 namespace coilrun {
 
-/// What a rule works on: the state, the host for all that is no rule, and who drives the snakes.
+/// What a rule works on: the state, the host for everything that is not a rule, and who drives the
+/// snakes.
 struct Game {
   State& state;
   GameHost& host;

@@ -10,8 +10,8 @@ class GameHost {
  public:
   virtual ~GameHost() = default;
 
-  /// Requests an effect by its path below the program folder ("\snd\wall.wav") for the snake that
-  /// causes it.
+  /// Plays an effect, given by its path below the program folder ("\snd\wall.wav"), for the snake
+  /// that causes it.
   virtual void PlayEffect(std::string_view path, int snake) = 0;
   /// Draws a complete frame and flips it.
   virtual void DrawFrame() = 0;

@@ -18,14 +18,14 @@ HiScoreEntry* BeatenEntry(State& state) {
   return found == state.HiScore.end() ? nullptr : found;
 }
 
-/// Lets the score page stand on the new entry, and ask for a name when there is none.
+/// Points the score page to the new entry, where it asks for a name if there is none.
 void ShowEntry(State& state, const HiScoreEntry& entry) {
   if (!state.more.AskName) return;
   state.menus.EnteredPlace = static_cast<int>(&entry - state.HiScore.begin()) + 1;
   state.menus.EditsName = entry.Name == kUnknownName;
 }
 
-/// Overwrites the entry; those below it are not moved down. The menus will open on the table.
+/// Overwrites the entry; those below it do not move down. The menus will open at the score page.
 void StoreHighScore(Game& game, HiScoreEntry& entry) {
   const SnakeRec& player = game.state.Snakes(kPlayer);
   entry.Name = player.Name;

@@ -4,7 +4,7 @@
 
 namespace coilrun {
 
-/// How far a head may be from a thing and still touch it, all bounds included.
+/// How far a head may be from a thing and still touch it, bounds included.
 struct Reach {
   int minX;
   int maxX;
@@ -18,11 +18,12 @@ struct Reach {
   }
 };
 
-/// Touch is lopsided on purpose: 16 pixels before an obstacle, 12 after it.
+/// Touch is lopsided on purpose: 16 pixels to the left of an obstacle and above it, 12 to the right
+/// and below.
 inline constexpr Reach kObstacleReach{-16, 12, -16, 12};
 
 /// One axis of the field: heads live between 0 and `end`, both excluded. An open edge lets a head
-/// in again on the other side.
+/// back in on the other side.
 struct FieldAxis {
   int end;
   int farEntry;   ///< for a head that left at 0

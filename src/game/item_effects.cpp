@@ -19,9 +19,9 @@ constexpr int kRedPoints = 30;
 constexpr int kBluePoints = 60;
 constexpr int kPowerCost = 100;
 constexpr int kPowerSeconds = 20;
-/// Every so many blue items bring a life or a frag.
+/// How many blue items bring a life or a frag.
 constexpr int kBluesForReward = 10;
-/// A smaller gain in speed is not worth a message, in percent.
+/// Up to this gain in speed, in percent, there is no message.
 constexpr int kSpeedWorthTelling = 10;
 
 using std::to_string;
@@ -30,7 +30,8 @@ bool IsMultiplayer(const State& state) {
   return coilrun::IsMultiplayer(state.mode.GameMode);
 }
 
-/// Takes an eaten coloured item off its place: hidden until the next death, or on to another one.
+/// Takes an eaten coloured item from its place: it is hidden until the next death, or moves on to
+/// another place.
 void Remove(State& state, ItemKind kind, ItemRec& item, int slot) {
   if (state.level.HideCollected) {
     item.Present = false;
@@ -43,7 +44,7 @@ void Remove(State& state, ItemKind kind, ItemRec& item, int slot) {
   if (!PlaceItem(state, kind, slot, false)) item.Present = false;
 }
 
-/// Rolls how long a change of speed lasts, sets it, and returns it in seconds.
+/// Rolls for how long a change of speed lasts, sets the timer, and returns the seconds.
 int RollSpeedSeconds(State& state) {
   const int seconds = state.Rnd.Below(6) + 4;
   state.timers.SetInterval(state.timers.ResetSpeed, seconds * 1000);

@@ -11,7 +11,7 @@ void EatRed(Game& game, int snake, ItemRec& item, int slot);
 void EatBlue(Game& game, int snake, ItemRec& item, int slot);
 void EatBlack(Game& game, int snake, ItemRec& item, int slot);
 void EatTnt(Game& game, int snake, ItemRec& item, int slot);
-/// Power works in single play without `GodMode` only; else it stays on the field.
+/// Power works only in single play without `GodMode`; otherwise it stays on the field.
 void EatPower(Game& game, int snake, ItemRec& item, int slot);
 
 }  // namespace coilrun

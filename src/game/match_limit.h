@@ -4,7 +4,7 @@
 
 namespace coilrun {
 
-/// What wins a match that names no limit: a length when hunting, else frags.
+/// What wins a match when no limit is given: a length when hunting, otherwise frags.
 inline int UsualMatchLimit(const ModeState& mode) {
   constexpr int kHuntingLength = 30;
   constexpr int kFrags = 120;

@@ -8,7 +8,8 @@
 namespace coilrun {
 namespace {
 
-/// A turn code by the direction in which the snake entered the cell and the one in which it left.
+/// A turn code, with the direction in which the snake entered the cell and the one in which it
+/// left.
 struct Turn {
   Dir entered;
   Dir left;
@@ -23,8 +24,8 @@ constexpr std::array<Turn, 8> kTurns = {{{Dir::kForw, Dir::kLeft, Dir::kFL},
                                          {Dir::kRight, Dir::kForw, Dir::kRF},
                                          {Dir::kRight, Dir::kBack, Dir::kRB}}};
 
-/// What a cell shows that was entered in one direction and left in another: a corner when they are
-/// at right angles, else the direction in which it was left.
+/// What a cell shows when it was entered in one direction and left in another: a corner if the two
+/// are at right angles, otherwise the direction in which it was left.
 Dir Joined(Dir entered, Dir left) {
   for (const Turn& turn : kTurns) {
     if (turn.entered == entered && turn.left == left) return turn.code;
@@ -45,8 +46,8 @@ void UpdateNeck(SnakeRec& body) {
   body.Seg(0) = {neck.x, neck.y, Joined(body.Seg(0).Dir, body.Dir)};
 }
 
-/// Carries every cell, and with it the corner that it shows, one place down the body. The cell
-/// ahead is made plain before its own turn comes, so that two corners in a row stay two corners.
+/// Moves every cell, and with it the corner that it shows, one place down the body. The cell ahead
+/// is straightened before its own turn comes, so that two corners in a row stay two corners.
 void Shift(SnakeRec& body) {
   for (int i = std::min<int>(body.Length, kLastSeg); i >= 1; --i) {
     SegRec& ahead = body.Seg(i - 1);

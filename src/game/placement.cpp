@@ -35,8 +35,8 @@ constexpr int kBodyKeepOut = 10;
 /// Head, neck and first cell of the player do not keep items away.
 constexpr int kFirstBlockingSeg = 2;
 
-/// Shows `visit` every thing that keeps items away, with its keep-out distance, until it returns
-/// true; tells whether it did.
+/// Passes everything that keeps items away to `visit`, with its keep-out distance, until `visit`
+/// returns true; returns whether it did.
 template <typename Visit>
 bool AnyKeepOut(const State& state, const Visit& visit) {
   for (std::size_t kind = 0; kind < kItemKeepOut.size(); ++kind) {
@@ -77,7 +77,7 @@ constexpr SpotMarks OutsideTheField() {
   return marks;
 }
 
-/// The field as candidates: which of them are taken.
+/// Which of the field's candidates are taken.
 class SpotMap {
  public:
   explicit SpotMap(const State& state) : taken_(kOutside) {
@@ -99,7 +99,7 @@ class SpotMap {
   }
 
  private:
-  /// First and last candidate on one axis between two positions.
+  /// The first and the last candidate on one axis between two positions.
   static int FirstFrom(int position, int origin) {
     return position <= origin ? 0 : (position - origin + kSpotStep - 1) / kSpotStep;
   }
@@ -127,7 +127,7 @@ bool IsFree(const SpawnRec& point) {
   return point.State->kind == SpawnUse::Kind::kFree;
 }
 
-/// The loader's way: any free point, by lot.
+/// How the loader chooses: a random free point.
 std::optional<int> RollSpawnPoint(State& state) {
   const auto firstPoint = state.SpawnPoints.begin();
   if (std::none_of(firstPoint, firstPoint + state.numSpawnPoints, IsFree)) {
@@ -141,8 +141,8 @@ std::optional<int> RollSpawnPoint(State& state) {
   return std::nullopt;
 }
 
-/// The way during play: the first free point in order. A point whose item was just eaten is passed
-/// over once.
+/// How play chooses: the first free point in order. A point whose item was just eaten is skipped
+/// once.
 std::optional<int> NextSpawnPoint(State& state) {
   for (int number = 1; number <= state.numSpawnPoints; ++number) {
     SpawnRec& point = state.SpawnPoints(number);
@@ -155,8 +155,8 @@ std::optional<int> NextSpawnPoint(State& state) {
   return std::nullopt;
 }
 
-/// Rolls spots until one is free, or nothing after all rolls. A crowded field is looked at as a
-/// whole once, which costs as much as looking at a few spots.
+/// Rolls spots until one is free; if all rolls fail, rolls among the free spots. A crowded field is
+/// mapped as a whole once, which costs as much as looking at a few spots.
 std::optional<Point> FindFreeSpot(State& state) {
   constexpr int kSingleLooks = 2;
   std::optional<SpotMap> map;

@@ -6,8 +6,8 @@
 
 namespace coilrun {
 
-/// Chooses a place for item `slot` (1 to 300) of a kind: a spawn point of the level when one is
-/// free, else a random free spot. `initial` is the placement at the start of a level. Writes the
+/// Chooses a place for item `slot` (1 to 300) of a kind: a spawn point of the level if one is free,
+/// otherwise a random free spot. `initial` is the placement at the start of a level. Writes the
 /// item's position and `SpawnPoint` and the point's `State`, never `Present`. False when the field
 /// is full: the item is parked off the screen, and the caller leaves it absent.
 bool PlaceItem(State& state, ItemKind kind, int slot, bool initial);

@@ -12,14 +12,14 @@
 namespace coilrun {
 namespace {
 
-/// A path that is shorter names no level.
+/// A shorter path does not name a level.
 constexpr std::size_t kShortestLevelPath = 7;
 
 bool NamesNextLevel(const std::string& path) {
   return path.size() >= kShortestLevelPath && !path.ends_with("END");
 }
 
-/// A point for every second that is left; a cheated clock can cost points.
+/// Adds a point for every second that is left; a cheated clock can cost points.
 void AddTimeBonus(State& state) {
   if (state.level.Timeout == 0) return;
   const double bonus = state.level.Timeout - state.level.ElapsedSecs;

@@ -6,7 +6,7 @@
 namespace coilrun {
 namespace {
 
-/// With fewer seconds left an immortal snake stays hidden.
+/// With fewer seconds left, an immortal snake stays hidden.
 constexpr int kBlinkingSeconds = 3;
 
 void EndIfSpent(State& state, SnakeRec& snake) {
@@ -15,7 +15,7 @@ void EndIfSpent(State& state, SnakeRec& snake) {
   MessagePrint(state, snake.Name + " is no longer immortal!");
 }
 
-/// Ends an immortality that has run out and says whether the shared blink shows the snake.
+/// Ends an immortality that has run out, and returns whether the shared blink shows the snake.
 bool BlinkShows(State& state, SnakeRec& snake) {
   EndIfSpent(state, snake);
   bool& blink = state.shell.ImmortalBlink;

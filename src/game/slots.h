@@ -6,7 +6,7 @@
 
 namespace coilrun {
 
-/// The slots `first` to `last` of a table, as far as the table goes; none when `last` is smaller.
+/// The slots `first` to `last` of a table, as far as the table goes; none when `last` is less.
 template <typename AnyTable>
 auto Slots(AnyTable& table, int first, int last) {
   const int count = std::max(std::min(last, AnyTable::kLast) - first + 1, 0);

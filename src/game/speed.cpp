@@ -14,7 +14,7 @@ constexpr int kLastSecond = 32001;
 /// Ticks of the level clock between two steps of the "Speed!" option.
 constexpr int kSpeedUpTicks = 2;
 
-/// The player's normal step period, less what the "Speed!" option has taken off it.
+/// The player's normal step period minus what the "Speed!" option has taken off it.
 int SpedUpPeriod(const State& state) {
   const SettingsState& settings = state.settings;
   const double period = std::trunc(state.Snakes(kPlayer).BaseInterval - settings.SpeedGain);

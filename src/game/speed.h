@@ -4,14 +4,14 @@
 
 namespace coilrun {
 
-/// The rules' part of the one-second tick: immortality, level clock, "Speed!" option.
+/// The part of the one-second tick that belongs to the rules: immortality, level clock, "Speed!".
 void TickSecond(State& state);
-/// The `ResetSpeed` timer has fired: the player's normal speed again.
+/// Gives the player the normal speed back, when the `ResetSpeed` timer has fired.
 void SpeedReset(State& state);
 
-/// Lets the first red item show again where it was, unless no place was found for it.
+/// Shows the first red item again where it was, unless no place was found for it.
 void ShowFirstRed(State& state);
-/// A step period as snakes keep it: whole milliseconds, halves to even, within 16 bits.
+/// A step period as snakes store it: whole milliseconds, halves to even, within 16 bits.
 Int16 StepPeriod(double milliseconds);
 
 }  // namespace coilrun

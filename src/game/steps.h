@@ -4,11 +4,12 @@
 
 namespace coilrun {
 
-/// Steps every AI snake whose timer has fired, and switches all fired AI timers on again.
+/// Steps every AI snake whose timer has fired, and switches the fired AI timers on again.
 void StepAiSnakes(Game& game);
 
 bool PlayerStepDue(const State& state);
-/// The player's step up to the head's move and the time limit; items and walls are drawn next.
+/// The player's step as far as the move of the head and the time limit; items and walls are drawn
+/// next.
 void BeginPlayerStep(Game& game);
 /// The body follows, and the step timer runs again.
 void EndPlayerStep(State& state);

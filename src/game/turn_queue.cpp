@@ -7,7 +7,7 @@
 namespace coilrun {
 namespace {
 
-/// Whether a direction was asked for that the next step will take.
+/// Whether the next step will take a direction that was asked for.
 bool NextDirWaits(const SnakeRec& snake) {
   return snake.NextDir != Dir::kNone && snake.NextDir != snake.Dir &&
          snake.NextDir != Reverse(snake.Dir);

@@ -4,10 +4,10 @@
 
 namespace coilrun {
 
-/// A person asks for a turn: it sets `NextDir`, or, with queued turns, waits its turn. A press
-/// that exactly reverses the one asked for last takes that one back.
+/// A person asks for a turn: it sets `NextDir` or, when turns queue up, waits in line. A press that
+/// exactly reverses the last one asked for takes that one back.
 void AskTurn(State& state, int person, Dir press);
-/// After a step of the person's snake: the oldest press that waits is taken next.
+/// After a step of the person's snake: makes the oldest press that waits the next to be taken.
 void TakeQueuedTurn(State& state, int person);
 
 }  // namespace coilrun

@@ -9,14 +9,13 @@ namespace coilrun {
 namespace {
 
 constexpr int kMessageFont = 4;
-/// The box begins one row above the first text; texts and rows share one raster.
+/// The box begins one row above the first text; texts and rows lie on the same grid.
 constexpr int kBoxTop = 200;
 constexpr int kRowHeight = 15;
-/// The box takes the centred texts from this one on.
+/// The box takes up the centred texts from this one on.
 constexpr int kFirstBoxLine = 5;
 
-/// Whether the last key is the one that is waited for; Space does for Enter, when the player wants
-/// it.
+/// Whether the last key is the awaited one; Space stands in for Enter if the player wants that.
 bool Answers(const State& state, int scanCode) {
   const int key = state.keys.LastKey;
   return key == scanCode || (state.more.AnyKey && scanCode == kKeyEnter && key == kKeySpace);

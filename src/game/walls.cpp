@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::string_view kExplosionSound = "\\snd\\explode.wav";
 
-/// A snake that is checked for walls where it stands.
+/// A snake being checked for walls where it stands.
 struct CheckedSnake {
   Game& game;
   int number;
@@ -20,7 +20,7 @@ struct CheckedSnake {
   SnakeRec& Body() const { return game.state.Snakes(number); }
   bool Touches(Point obstacle) const { return kObstacleReach.Touches(Body().Head(), obstacle); }
 
-  /// Meets a standing obstacle that TNT can blow; false when the snake dies on it.
+  /// Meets a standing obstacle that TNT can blow up; false when the snake dies on it.
   bool Meet(bool& present) const {
     if (Body().TNT < 1) {
       KillSnake(game, number, DeathCause::kWall);

@@ -13,7 +13,7 @@ namespace coilrun {
 
 inline constexpr int kSndBuffers = 128;
 
-/// The sound effects: a store of 128 slots, found again by path without regard to letter case.
+/// The sound effects: a store of 128 slots, found by path without regard to letter case.
 class Effects {
  public:
   Effects(State& state, Files& files, AudioOut& audio);
@@ -24,10 +24,10 @@ class Effects {
   /// (2 and above) and all effects can be switched off in the settings.
   void snPlaySound(std::string_view path, int snake);
 
-  /// Loads an effect into a free slot; one that cannot be loaded costs a console line and stays
-  /// silent.
+  /// Loads an effect into a free slot; if it cannot be loaded, it stays silent and the console gets
+  /// a line.
   int SnLoadSound(const std::string& path);
-  /// The first free slot; a store that is full is emptied first.
+  /// The first free slot; a full store is emptied first.
   int FindFreeSndBuffer();
   void ClearSndBuffers();
 

@@ -5,9 +5,9 @@
 
 namespace coilrun {
 
-/// Pictures of an animated item or wall, numbered from 1.
+/// How many pictures an animated item or wall has, numbered from 1.
 inline constexpr int kAnimationFrames = 45;
-/// Steps of the slower rhythm beside the frames, numbered from 0.
+/// Steps of a slower rhythm that runs beside the frames, numbered from 0.
 inline constexpr int kAnimationPhases = 5;
 
 /// Name of a frame's picture; `folder` lies below the gfx folder and ends in "\".

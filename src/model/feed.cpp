@@ -5,7 +5,7 @@
 namespace coilrun {
 namespace {
 
-/// Ticks that the oldest line stays at the top.
+/// How many ticks the oldest line stays at the top.
 constexpr int kLineAge = 2;
 constexpr std::string_view kLineBreak = "\r\n";
 

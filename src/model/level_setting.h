@@ -4,8 +4,8 @@
 
 namespace coilrun {
 
-/// A setting that a level may replace while it is played. Reads as the value in force; only the
-/// player's own value is ever shown by the options or stored.
+/// A setting that a level may replace while it is played. Reads as the value in force; the options
+/// page shows and the settings file stores only the player's own.
 template <typename T>
 class LevelSetting {
  public:
@@ -16,7 +16,7 @@ class LevelSetting {
     return forLevel_.value_or(own_);
   }
   constexpr const T& Own() const { return own_; }
-  /// The player's value, which a level's value goes on hiding.
+  /// The player's value, even while a level's value is in force.
   constexpr T& Own() { return own_; }
   constexpr void ReplaceForLevel(T value) { forLevel_ = value; }
 

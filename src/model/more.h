@@ -14,7 +14,7 @@ namespace coilrun {
 
 inline constexpr int kMaxPeople = 4;
 
-/// How presses between two steps count: the last one, or one after the other.
+/// Which presses between two steps count: the last one, or all, one after the other.
 enum class TurnsMode : std::uint8_t { kLast, kQueue };
 template <>
 inline constexpr WordList<2> kWords<TurnsMode>{"last", "queue"};
@@ -33,7 +33,7 @@ enum class RivalKind : std::uint8_t { kClassic, kClever, kMaster };
 template <>
 inline constexpr WordList<3> kWords<RivalKind>{"classic", "clever", "master"};
 
-/// The menu pages beside main page, options and high scores.
+/// The menu pages other than main page, options and high scores.
 enum class MorePage : std::uint8_t { kNone, kMore, kMatch, kControls, kReplays };
 template <>
 inline constexpr WordList<5> kWords<MorePage>{"", "more", "match", "controls", "replays"};
@@ -42,7 +42,7 @@ enum class MatchMode : std::uint8_t { kCampaign, kDeathmatch, kHunting };
 template <>
 inline constexpr WordList<3> kWords<MatchMode>{"campaign", "deathmatch", "hunting"};
 
-/// The kinds that the computer snakes are dealt in turn; never empty.
+/// The kinds that are dealt to the computer snakes in turn; never empty.
 struct RivalList {
   std::vector<RivalKind> kinds{RivalKind::kClassic};
 
@@ -69,7 +69,8 @@ struct SteeringKeys {
   bool operator==(const SteeringKeys&) const = default;
 };
 
-/// The settings of the sections [More] and [Keys], each at its built-in value, and their pages.
+/// The settings of the sections [More] and [Keys], which start at their built-in values, and the
+/// pages that show them.
 struct MoreState {
   MorePage Page = MorePage::kNone;
   Int16 Cursor;  ///< from 1; 0 where there is no entry
@@ -97,27 +98,27 @@ struct TurnQueue {
   std::size_t count = 0;
 };
 
-/// One of those who sit at this machine.
+/// One of the people at this machine.
 struct Person {
   TurnQueue queue;
-  bool Out = false;  ///< without lives until the next level
+  bool Out = false;  ///< has no lives left until the next level
 };
 
 /// "classic,master"; nothing for a list with an unknown or an empty word.
 std::string RivalText(const RivalList& rivals);
 std::optional<RivalList> RivalsFromText(std::string_view text);
 
-/// Scan codes with blanks between; nothing when there are more than four or one cannot steer. An
-/// empty text is an empty list.
+/// Scan codes separated by blanks; nothing when there are more than four or one of them cannot
+/// steer. An empty text is an empty list.
 std::optional<std::vector<int>> KeyCodesFromText(std::string_view text);
 std::string KeyCodesText(const std::vector<int>& codes);
-/// Whether a key may be bound to a direction: within 1 to 239 and without a use of its own.
+/// Whether a key may be bound to a direction: its code is 1 to 239 and it has no other use.
 bool CanSteer(int code);
 
-/// The keys of person 1 to 4 without any setting.
+/// The keys of person 1 to 4 when nothing is set.
 SteeringKeys BuiltInKeys(int person);
 
-/// The four lists of a person's keys by the direction that they steer to.
+/// The list of a person's keys that steer in this direction.
 template <typename Keys>
 requires std::is_same_v<std::remove_const_t<Keys>, SteeringKeys>
 auto& KeysOf(Keys& keys, Dir dir) {

@@ -26,13 +26,14 @@ std::optional<int> RoundInto(double number, double lowest, double highest) {
   return static_cast<int>(rounded);
 }
 
-/// from_chars reads words like "inf" too; what follows the sign of a number is a digit or a point.
+/// Keeps out words like "inf", which from_chars reads too: a number's sign is followed by a digit
+/// or a point.
 bool StartsLikeANumber(std::string_view text) {
   return !text.empty() &&
          (std::isdigit(static_cast<unsigned char>(text[0])) != 0 || text[0] == '.');
 }
 
-/// What a number beyond the range of doubles is taken for: 0, or the largest.
+/// The stand-in for a number beyond the range of doubles: 0, or the largest.
 double OutOfRange(std::string_view digits) {
   const bool tiny = digits.find_first_of("eE") != digits.npos
                         ? digits.find("e-") != digits.npos || digits.find("E-") != digits.npos

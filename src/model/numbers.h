@@ -15,12 +15,12 @@ inline int RoundToInt(double value) {
   return static_cast<int>(std::nearbyint(value));
 }
 
-/// The number at the start of a text: blanks, tabs and line feeds are dropped wherever they stand,
-/// then sign, digits, decimal point and exponent are read as far as they make a number. 0 without
-/// one. A ',' is a decimal point only when asked for.
+/// The number at the start of a text: blanks, tabs and line feeds are dropped wherever they are,
+/// then sign, digits, decimal point and exponent are read as far as they form a number. 0 if there
+/// is none. A ',' is a decimal point only when asked for.
 double LeadingNumber(std::string_view text, bool commaIsPoint = false);
 
-/// The number that the whole text is, blanks around it allowed; nothing when it is no number.
+/// The number that the whole text forms, with or without blanks around it; nothing otherwise.
 std::optional<double> WholeNumber(std::string_view text, bool commaIsPoint = false);
 
 /// `LeadingNumber` rounded into 16 or 32 bits; nothing when it does not fit.
@@ -30,7 +30,8 @@ std::optional<int> ToInt32(double number);
 /// "True"/"False" in any letter case, or a number (0 is false); nothing for any other text.
 std::optional<bool> ToBoolean(std::string_view text);
 
-/// Plain decimal: whole numbers without a fraction, others as short as they read back.
+/// Plain decimal: whole numbers without a fraction, others with as few digits as read back the
+/// same.
 std::string NumberText(double number);
 /// "True" or "False".
 std::string BooleanText(bool value);

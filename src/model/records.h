@@ -40,7 +40,7 @@ struct SnakeRec {
   Int16 Y;
   coilrun::Dir Dir = coilrun::Dir::kNone;
   coilrun::Dir NextDir =
-      coilrun::Dir::kNone;  ///< asked for by the keyboard; taken at the next step
+      coilrun::Dir::kNone;  ///< what the keyboard asks for; taken at the next step
   Int16 Length = 1;         ///< body cells in use
   Int16 Grow;               ///< cells still to be added
   Int32 StartX;
@@ -94,7 +94,7 @@ struct SpawnRec {
   Written<SpawnUse> State;
 };
 
-/// A wall with a picture of the level's own.
+/// A wall with a picture that the level brings.
 struct UserItemRec {
   Int16 X;
   Int16 Y;
@@ -112,7 +112,7 @@ struct CenterLine {
   Int16 Font;
 };
 
-/// The name of those who have given none.
+/// The name of players who have given none.
 inline constexpr std::string_view kUnknownName = "Unknown";
 
 struct HiScoreEntry {

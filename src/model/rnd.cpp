@@ -33,7 +33,7 @@ void Rnd::Reseed(std::uint64_t mix) {
 }
 
 void Rnd::Skip(std::uint64_t count) {
-  // A step is state x times + plus: first one of the generator's, then two at once, four, eight.
+  // A step is state * times + plus; two steps have that form too, and so have four, eight, ...
   std::uint64_t times = kMultiplier;
   std::uint64_t plus = kIncrement;
   for (; count > 0; count /= 2) {

@@ -9,11 +9,11 @@ class Rnd {
  public:
   /// Uniform in [0, 1), in steps of 2^-32.
   double Next();
-  /// Int(Rnd x range): a whole number from 0 to range - 1; 0 when `range` is 1 or less.
+  /// Int(Rnd * range): a whole number from 0 to range - 1; 0 when `range` is 1 or less.
   int Below(double range);
-  /// Mixes a number into the state, so that two reseeds with the same number still differ.
+  /// Mixes a number into the state, so that two reseeds with the same number in a row still differ.
   void Reseed(std::uint64_t mix);
-  /// As so many calls of `Next`, in no time.
+  /// The same as `count` calls of `Next`, but at once.
   void Skip(std::uint64_t count);
 
  private:

@@ -7,8 +7,8 @@
 
 namespace coilrun {
 
-/// A whole number of fixed width that stops at the ends of its range instead of wrapping. Reads as
-/// a plain `int`.
+/// A whole number of fixed width that stops at the ends of its range instead of wrapping around.
+/// Reads as a plain `int`.
 template <typename Stored>
 class Saturating {
  public:

@@ -6,7 +6,7 @@
 
 namespace coilrun {
 
-/// Snakes in play, whatever number the state holds: 1 to 16.
+/// How many snakes are in play, 1 to 16, whatever number the state holds.
 inline int SnakesInPlay(const State& state) {
   return std::clamp<int>(state.mode.NumSnakes, 1, kMaxSnakes);
 }

@@ -26,7 +26,7 @@ inline constexpr int kMaxSpawnPoints = 300;
 inline constexpr int kMaxUserItems = 681;
 inline constexpr int kMaxModelPacks = 100;
 inline constexpr int kHiScores = 10;
-/// Characters of a name that is typed or stored.
+/// The most characters that a name has when it is typed or stored.
 inline constexpr std::size_t kLongestName = 14;
 inline constexpr int kMsgLines = 5;
 
@@ -85,8 +85,8 @@ struct MenuState {
   Table<bool, 4> EntryLit;
   std::string StatusText;
   bool statusHeld = false;  ///< a failure's or a question's text stays until the next key
-  bool asked = false;       ///< whether the running game shall be given up
-  int EnteredPlace = 0;     ///< of the high score that was just made; 0 without one
+  bool asked = false;       ///< the player was asked whether to give up the running game
+  int EnteredPlace = 0;     ///< the place of the high score just made; 0 if there is none
   bool EditsName = false;   ///< that entry's name is being typed
   std::string CreditsText;
   Int32 CreditsPos;
@@ -96,10 +96,10 @@ struct MenuState {
 };
 
 struct KeyState {
-  int LastKey = 0;  ///< scan code of the last key that fired; 0 when empty
+  int LastKey = 0;  ///< scan code of the last key that fired; 0 for none
   Int16 KeyPressed;
   std::array<std::uint8_t, 256> Down{};
-  std::array<bool, 256> Armed{};  ///< seen released, may fire again
+  std::array<bool, 256> Armed{};  ///< was seen released, so may fire again
   bool ShiftDown = false;
 };
 
@@ -120,7 +120,7 @@ struct FeedState {
 /// A picture or texts laid over the frame while a wait goes on.
 enum class WaitOverlay : std::uint8_t { kNone, kTimeLimit, kGameOver };
 
-/// Level properties, named as the level file's keys.
+/// Level properties, named after the level file's keys.
 struct LevelState {
   std::string lvlName;
   std::string nextLvl;
@@ -139,7 +139,7 @@ struct LevelState {
   std::string BkgPic;
   Int16 MapSnakeCount;
   bool UserItemsUsed = false;
-  bool SetsPeriod = false;  ///< the player's normal step period is the level's
+  bool SetsPeriod = false;  ///< the level sets the player's normal step period
   bool UsesRed = false;
   bool UsesBlue = false;
   bool UsesBlack = false;
@@ -167,8 +167,7 @@ struct SettingsState {
   Int32 SpeedTicks;  ///< ticks of the level clock since the level started
 };
 
-/// The items of one kind. A level that failed to load can leave a count that is larger than the
-/// table.
+/// The items of one kind. A level that failed to load can leave a count larger than the table.
 struct ItemList {
   Table<ItemRec, kMaxItems> slots;
   Int16 count;
@@ -187,7 +186,7 @@ struct SoundStart {
 
 struct MusicState {
   std::string CurrentMusic;
-  std::string refused;  ///< could not be played; not tried again in this level
+  std::string refused;  ///< a file that could not be played; not tried again in this level
   bool MusicPlaying = false;
   bool MusicLoop = false;
   int Volume = 0;  ///< hundredths of a decibel
@@ -206,10 +205,10 @@ struct OutputLog {
   bool enabled = false;
   std::vector<DrawnText> drawing;  ///< since the last full-screen fill or background
   std::vector<DrawnText> shown;    ///< on the picture last flipped
-  std::vector<SoundStart> sounds;  ///< since the last look
+  std::vector<SoundStart> sounds;  ///< since they were last read
 };
 
-/// The whole state of the program. Made in one place and handed down by reference.
+/// The whole state of the program. Made in one place and passed down by reference.
 struct State {
   State();
 
@@ -249,7 +248,7 @@ struct State {
   const ItemList& Items(ItemKind kind) const { return itemLists[static_cast<std::size_t>(kind)]; }
 };
 
-/// The people who play on this machine: snakes 1 to this number.
+/// How many people play on this machine: theirs are snakes 1 to this number.
 inline int PeopleInPlay(const State& state) {
   return std::clamp<int>(state.more.Players, 1, kMaxPeople);
 }
@@ -257,10 +256,10 @@ inline int PeopleInPlay(const State& state) {
 /// Seeds `Rnd` from the clock.
 void ReseedFromClock(State& state);
 
-/// Parks the body cells of a snake, those beyond its length too, and leaves it with one cell and
-/// nothing to grow.
+/// Parks all body cells of a snake, even those beyond its length, and leaves it with one cell and
+/// no growth pending.
 void ResetSnakeBody(State& state, int snake);
-/// Puts every hidden item of the four coloured kinds back.
+/// Shows every hidden item of the four coloured kinds again.
 void RestoreCollectedItems(State& state);
 /// Frees every spawn point of the level.
 void ResetSpawnPoints(State& state);

@@ -17,7 +17,7 @@ struct Timer {
   std::int64_t Due() const { return start + std::int64_t{Interval} * 1000; }
 };
 
-/// All timers of the program, and the time as the pump saw it last.
+/// All timers of the program, and the time when the pump last looked.
 struct Timers {
   Timers();
 
@@ -32,13 +32,13 @@ struct Timers {
   std::int64_t now = 0;          ///< microseconds since the process started
   std::int64_t frameLength = 0;  ///< microseconds between the last two flips
 
-  /// Switches a timer on; one that runs already goes on undisturbed.
+  /// Switches a timer on; one that is already running goes on undisturbed.
   void Start(Timer& timer) const;
-  /// As `Start`, but a timer that has fired just before this pass counts from the moment it was
+  /// Like `Start`, but a timer that has fired just before this pass counts from the moment it was
   /// due, at most one frame back: steps keep their average pace at any frame rate.
   void StartEvenly(Timer& timer) const;
   static void Stop(Timer& timer) { timer.Enabled = false; }
-  /// Gives a timer another interval; one that runs counts anew from now.
+  /// Gives a timer another interval; if it is running, it starts over from now.
   void SetInterval(Timer& timer, int milliseconds) const;
 };
 

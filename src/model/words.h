@@ -33,7 +33,7 @@ inline constexpr WordList<13> kWords<Dir>{"",   "Forw", "Back", "Left", "Right",
                                           "BL", "BR",   "LF",   "LB",   "RF",    "RB"};
 inline constexpr int kDirs = 13;
 
-/// Kinds of walls by the picture that they show.
+/// Kinds of walls, by the picture that they show.
 enum class WallKind : std::uint8_t { kNone, kV, kH, kVL, kVR, kHT, kHB, kS };
 template <>
 inline constexpr WordList<8> kWords<WallKind>{"", "v", "h", "v_l", "v_r", "h_t", "h_b", "s"};
@@ -56,13 +56,13 @@ enum class InputTarget : std::uint8_t { kNone, kPlayerName, kCheat, kScoreName }
 template <>
 inline constexpr WordList<4> kWords<InputTarget>{"", "PlayerName", "Cheat", "ScoreName"};
 
-/// Where the keys of typed text have their characters from.
+/// Which keyboard gives typed text its characters.
 enum class KeyboardLayout : std::uint8_t { kUs, kDe };
 template <>
 inline constexpr WordList<2> kWords<KeyboardLayout>{"US", "DE"};
 
-/// What a user item is: a still or a moving picture, drawn alone, or a wall that TNT blows, or one
-/// that it does not. `kNone` is neither drawn nor met.
+/// What a user item is: a mere picture, a wall that TNT blows up, or a wall that withstands TNT,
+/// each still or moving. `kNone` is neither drawn nor met.
 enum class UserItemType : std::uint8_t {
   kNone,
   kPicture,
@@ -76,7 +76,7 @@ template <>
 inline constexpr WordList<7> kWords<UserItemType>{
     "", "wall_", "wall", "wall_no_tnt", "ani_wall_", "ani_wall", "ani_wall_no_tnt"};
 
-/// Who has a spawn point.
+/// Who holds a spawn point.
 struct SpawnUse {
   enum class Kind : std::uint8_t { kFree, kTaken, kJustEaten };
 
@@ -102,19 +102,19 @@ constexpr bool IsMoving(UserItemType type) {
   return type >= UserItemType::kMovingPicture;
 }
 
-/// "" free, a slot number: taken, "new": its item was just eaten.
+/// "": free; a slot number: taken; "new": its item was just eaten.
 std::string Word(SpawnUse use);
 
-/// What any text at all stands for where a value is written freely.
+/// The value that any text stands for, where a value may be written freely.
 template <typename T>
 T Meaning(std::string_view text);
-/// Every layout but exactly "DE" is "US".
+/// Everything but exactly "DE" is "US".
 template <>
 KeyboardLayout Meaning<KeyboardLayout>(std::string_view text);
 /// Walls are exact words; other words that begin like theirs are pictures.
 template <>
 UserItemType Meaning<UserItemType>(std::string_view text);
-/// A text that begins with no number, or with 0, leaves the point free.
+/// Apart from "new", a text leaves the point free unless it begins with a number other than 0.
 template <>
 SpawnUse Meaning<SpawnUse>(std::string_view text);
 

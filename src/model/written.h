@@ -8,8 +8,8 @@
 
 namespace coilrun {
 
-/// A value that files and scripts may give in any text. Rules see and set the value; a text that is
-/// not the value's own word stays beside it, for the trace, until the value is set anew.
+/// A value that files and scripts may write as any text. Rules see and set the value; a text that
+/// is not the value's own word is kept beside it, for the trace, until the value is set again.
 template <typename T>
 class Written {
  public:

@@ -16,7 +16,7 @@ class AudioOut {
   /// Takes a whole wave file; nothing when it cannot be decoded.
   virtual std::optional<int> Load(std::span<const std::uint8_t> wave) = 0;
   virtual void Release(int effect) = 0;
-  /// Starts the effect from its beginning; one that still sounds is stopped first.
+  /// Starts the effect from its beginning; if it is still playing, it is stopped first.
   virtual void Play(int effect) = 0;
 };
 

@@ -7,7 +7,7 @@
 namespace coilrun {
 
 /// Reads little-endian numbers from a span of bytes. Reading past the end yields zeros and marks
-/// the reader as failed for good, so a parser may read a whole header and ask `Ok()` once.
+/// the reader as failed for good, so a parser may read a whole header and check `Ok()` once.
 class ByteReader {
  public:
   explicit ByteReader(std::span<const std::uint8_t> bytes) : bytes_(bytes) {}

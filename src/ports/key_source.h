@@ -10,7 +10,7 @@ using KeySnapshot = std::array<std::uint8_t, 256>;
 
 enum class WindowEvent { kFocusLost, kFocusGained, kClose, kToggleFullScreen };
 
-/// Who is told at once when something happens to the window. May throw `Terminate`.
+/// Is told at once when something happens to the window. May throw `Terminate`.
 class WindowListener {
  public:
   virtual ~WindowListener() = default;
@@ -23,14 +23,14 @@ class KeySource {
  public:
   virtual ~KeySource() = default;
 
-  /// Takes in what has happened since the last call, window events through the listener as they
-  /// come, in order; called once at the start of every yield (a script runs the commands that are
-  /// due). May throw `Terminate`.
+  /// Takes in what has happened since the last call, in order, and tells the listener of window
+  /// events; called once at the start of every yield (a script runs the commands that are due). May
+  /// throw `Terminate`.
   virtual void Gather(WindowListener& listener) = 0;
-  /// Keeps the window alive while the program is busy and takes nothing in.
+  /// Keeps the window responsive while the program is busy, without taking anything in.
   virtual void Serve() = 0;
-  /// Brings the snapshot up to date, with at most one change of each key, so that a short tap is
-  /// seen down and then up.
+  /// Brings the snapshot up to date with at most one change per key, so that a short tap is seen
+  /// first down and then up.
   virtual void ReadKeys(KeySnapshot& keys) = 0;
 };
 

@@ -10,12 +10,12 @@ class MusicOut {
  public:
   virtual ~MusicOut() = default;
 
-  /// Takes a whole music file in place of the one before. False when it cannot be decoded.
+  /// Takes a whole music file in place of the previous one. False when it cannot be decoded.
   virtual bool Load(std::span<const std::uint8_t> file) = 0;
   /// Plays from `position` in seconds.
   virtual void Play(double position) = 0;
   virtual void Stop() = 0;
-  /// Length of the loaded file in seconds; 0 without one.
+  /// Length of the loaded file in seconds; 0 if there is none.
   virtual double Duration() const = 0;
   /// Seconds into the file.
   virtual double Position() const = 0;

@@ -25,7 +25,7 @@ struct CommonPorts {
   TextFace& text;
 };
 
-/// Everything that the program needs of a machine.
+/// Everything that the program needs from a machine.
 struct Ports : CommonPorts {
   KeySource& keys;
   MessageBox& box;

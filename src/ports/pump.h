@@ -7,7 +7,7 @@ class Pump {
  public:
   virtual ~Pump() = default;
 
-  /// Polls input, runs what a script has due, fires timers. May throw `Terminate`.
+  /// Polls input, runs the script commands that are due, fires timers. May throw `Terminate`.
   virtual void Yield() = 0;
   /// Shows the back buffer and paces the loop.
   virtual void Flip() = 0;

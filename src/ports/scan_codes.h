@@ -4,7 +4,7 @@
 
 namespace coilrun {
 
-/// Scan codes of the keys with a meaning of their own, and of controllers.
+/// Scan codes of the keys that have a fixed meaning, and of controllers.
 enum Key : int {
   kKeyEscape = 1,
   kKeyFirstCharacter = 2,
@@ -30,11 +30,11 @@ enum Key : int {
 };
 
 inline constexpr int kPadDirections = 4;
-/// The highest code there is.
+/// The highest code that exists.
 inline constexpr int kLastScanCode = 255;
 
-/// What the keys of the US layout type, by scan code; a blank is a key without a character (the
-/// space bar is apart).
+/// What the keys of the US layout type, by scan code; a blank stands for a key without a character
+/// (the space bar is handled elsewhere).
 inline constexpr std::string_view kUsCharacters =
     "  1234567890-=  qwertyuiop[]  asdfghjkl;'  \\zxcvbnm,./    ";
 

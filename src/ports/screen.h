@@ -9,7 +9,7 @@ inline constexpr int kScreenWidth = 640;
 inline constexpr int kScreenHeight = 480;
 inline constexpr int kScreenPixels = kScreenWidth * kScreenHeight;
 
-/// A whole picture of the screen: 640 x 480 pixels 0x00RRGGBB, row by row.
+/// A whole picture of the screen: 640 x 480 pixels of the form 0x00RRGGBB, row by row.
 using ScreenPixels = std::span<const std::uint32_t, kScreenPixels>;
 
 /// Where the primary buffer is shown.
@@ -24,7 +24,7 @@ class Screen {
   /// Takes the whole screen, or gives it back (the window stays, minimised or behind). No effect in
   /// a windowed run.
   virtual void SetFullScreen(bool on) = 0;
-  /// Changes between full screen and a window for good (Alt+Enter).
+  /// Switches between full screen and a window for good (Alt+Enter).
   virtual void ToggleFullScreen() = 0;
   virtual void ShowPointer(bool visible) = 0;
 };

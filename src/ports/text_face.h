@@ -16,7 +16,7 @@ struct FontStyle {
   bool operator==(const FontStyle&) const = default;
 };
 
-/// A rendered text: coverage 0 to 255 a pixel, row by row.
+/// A rendered text: coverage from 0 to 255 for each pixel, row by row.
 struct TextMask {
   int width = 0;
   int height = 0;

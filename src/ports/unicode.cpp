@@ -9,7 +9,7 @@ struct Lead {
   unsigned char mostSecond = 0xBF;
 };
 
-/// The well-formed sequences that begin with this byte; length 0 when there is none.
+/// What well-formed sequences that begin with this byte look like; length 0 when there are none.
 Lead LeadOf(unsigned char byte) {
   if (byte < 0x80) return {1};
   if (byte >= 0xC2 && byte <= 0xDF) return {2};

@@ -6,7 +6,7 @@
 
 namespace coilrun {
 
-/// What stands for bytes or units that are no well-formed text.
+/// Stands for bytes or units that are not well-formed text.
 inline constexpr char32_t kReplacementCharacter = 0xFFFD;
 
 struct Utf8Character {
@@ -14,8 +14,8 @@ struct Utf8Character {
   std::size_t length = 1;  ///< in bytes
 };
 
-/// The first character of a text that is not empty. A broken sequence costs one byte and reads as
-/// the replacement character.
+/// The first character of a text that is not empty. A broken sequence takes up one byte and reads
+/// as the replacement character.
 Utf8Character FirstUtf8Character(std::string_view text);
 /// True when the whole text is well-formed UTF-8.
 bool IsUtf8(std::string_view text);

@@ -54,7 +54,7 @@ char LowerCase(char character) {
   const bool accented = byte >= 0xC0 && byte <= 0xDE && byte != 0xD7;
   if (ascii || accented) return static_cast<char>(byte + 0x20);
   switch (byte) {
-    case 0x8A:  // S, OE and Z with their signs lie 16 apart.
+    case 0x8A:  // The two cases of accented S and Z and of OE lie 16 apart.
     case 0x8C:
     case 0x8E:
       return static_cast<char>(byte + 0x10);

@@ -9,7 +9,7 @@
 namespace coilrun {
 
 /// The pump of the program: time, input and the screen pass through here and nowhere else. A yield
-/// from inside a handler does nothing, so handlers never interrupt each other.
+/// from inside a handler only serves the window, so handlers never interrupt each other.
 class MainPump final : public Pump {
  public:
   MainPump(State& state, Ports& ports, TimerHandlers& timers, WindowListener& window);
