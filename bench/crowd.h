@@ -8,7 +8,7 @@ namespace coilrun::bench {
 struct Crowd {
   int walls = 0;
   std::vector<int> snakeLengths;
-  int items = 0;       ///< in all
+  int items = 0;       ///< of all kinds together
   int textLength = 0;  ///< glyphs
 };
 
@@ -19,7 +19,7 @@ inline Crowd Worst() {
   return {680, std::vector<int>(kMaxSnakes, 99), kMaxItems * kItemKinds, 300};
 }
 
-/// The n-th cell of the field, row by row and around again.
+/// The n-th cell of the field, row by row, starting over at the end.
 inline Point FieldCell(int n) {
   constexpr int kColumns = 30;
   constexpr int kRows = 22;
@@ -46,7 +46,7 @@ inline void PutSnakes(State& state, const Crowd& crowd) {
   }
 }
 
-/// Walls in the order of the map, as a level lists them.
+/// Puts walls in the order of the map, as a level lists them.
 inline void PutWalls(State& state, const Crowd& crowd) {
   state.numWalls = crowd.walls;
   for (int w = 1; w <= crowd.walls; ++w) {

@@ -14,7 +14,7 @@ namespace {
 constexpr int kTextFont = 1;
 constexpr int kLineLength = 50;
 
-/// A renderer with all pictures loaded and a crowd on its field.
+/// A renderer with all pictures loaded and a crowded field.
 class Scene {
  public:
   explicit Scene(const Crowd& crowd) : text_(static_cast<std::size_t>(crowd.textLength), 'n') {
@@ -44,7 +44,7 @@ class Scene {
   }
 
   std::span<Pixel, kScreenPixels> Target() { return stage_.renderer.Screen().Back().Pixels(); }
-  /// Pixels beside the background that a frame writes.
+  /// How many pixels a frame writes besides the background.
   std::size_t OpaquePixels() const { return opaque_; }
 
  private:
@@ -94,8 +94,8 @@ void Frame(benchmark::State& run, const Crowd& crowd) {
   Report(run, scene);
 }
 
-/// The bytes that a frame writes, each once: the background and the opaque pixels, from memory
-/// where they lie side by side. No way of drawing can be faster.
+/// Copies the bytes that a frame writes, each once: the background and the opaque pixels, from
+/// memory where they lie side by side. No way of drawing can be faster.
 void Floor(benchmark::State& run, const Crowd& crowd) {
   Scene scene(crowd);
   const auto target = scene.Target();

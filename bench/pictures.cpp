@@ -45,7 +45,8 @@ bool InItem(ItemKind kind, int x, int y) {
   return Distance(x, y, -2, 11.5) <= 14.5 && Distance(x, y, -5, 11.5) >= 12 && y >= 1 && y < 23;
 }
 
-/// A tube of radius 7.6: straight, or a quarter turn about a corner of the cell.
+/// Whether a pixel lies in a tube of radius 7.6: straight, or a quarter turn about a corner of the
+/// cell.
 bool InTube(ModelPiece piece, int x, int y) {
   using enum ModelPiece;
   const auto corner = [&](int cornerX, int cornerY) {
@@ -93,7 +94,7 @@ Bitmap WallPicture() {
   });
 }
 
-/// Every cell holds an upright stroke and two bars.
+/// A sheet whose every cell holds a vertical stroke and two bars.
 Bitmap FontSheet(int font) {
   const Sheet& sheet = kSheets.at(static_cast<std::size_t>(font - 1));
   Bitmap bitmap = Plain(sheet.width, sheet.height, 0);

@@ -4,10 +4,10 @@
 
 namespace coilrun::bench {
 
-/// Pictures with masks as the game's own have them: crescents, tubes, bricks and strokes.
+/// Adds pictures with masks like those of the game: crescents, tubes, bricks and strokes.
 void PutPictures(MemoryFiles& files);
 
-/// A frame of the animation of a kind.
+/// A frame of a kind's animation.
 Bitmap ItemFrame(ItemKind kind);
 Bitmap ModelPicture(ModelPiece piece);
 Bitmap WallPicture();

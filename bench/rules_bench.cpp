@@ -6,7 +6,7 @@
 namespace coilrun::bench {
 namespace {
 
-/// Rules that are only measured meet nothing that asks the host for anything.
+/// Does nothing: rules that are only measured ask the host for nothing.
 class SilentHost : public GameHost {
  public:
   void PlayEffect(std::string_view, int) override {}
@@ -19,8 +19,8 @@ class SilentHost : public GameHost {
   void SaveSettings() override {}
 };
 
-/// Heads in a column of their own that no body, item or wall touches, so that every test is made
-/// and none hits: each pass does the same whole work.
+/// Puts the heads in a column of their own that no body, item or wall touches. Every test is made
+/// and none hits, so each pass does the same full amount of work.
 void ClearHeads(State& state) {
   constexpr int kColumn = 320;
   constexpr int kClearance = 60;

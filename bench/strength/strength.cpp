@@ -68,7 +68,7 @@ int main(int argc, char** argv) {
   using namespace coilrun;
   const auto list = RivalsFromText(argc > 1 ? argv[1] : "classic");
   if (!list) {
-    std::fprintf(stderr, "%s is no list of rivals\n", argv[1]);
+    std::fprintf(stderr, "%s is not a list of rivals\n", argv[1]);
     return 2;
   }
   std::printf("%-8s %4s  %-8s %8s %7s %6s %6s %6s %6s %8s %8s\n", "arena", "num", "kind", "life s",

@@ -21,7 +21,7 @@ std::error_code LastError() {
   return {errno, std::generic_category()};
 }
 
-/// Whether the open file is still the one of that name.
+/// Whether the open file is still the one with that name.
 bool IsSame(const FileHandle& file, const fs::path& name) {
   struct stat open {};
   struct stat named {};
@@ -34,14 +34,14 @@ bool IsRegular(const FileHandle& file) {
   return fstat(file.Descriptor(), &status) == 0 && S_ISREG(status.st_mode);
 }
 
-/// Waits for other running games, which are quick, but not for one that has been stopped.
+/// Waits for other running games, which are quick, but not for one that is suspended.
 bool Lock(const FileHandle& file) {
   constexpr auto kPatience = std::chrono::milliseconds(500);
   constexpr auto kPause = std::chrono::milliseconds(5);
   const auto end = std::chrono::steady_clock::now() + kPatience;
   while (flock(file.Descriptor(), LOCK_EX | LOCK_NB) != 0) {
     if (errno == EINTR) continue;
-    // Where the disk knows no locks, settings that are written unguarded are better than none.
+    // Where the disk knows no locks, writing settings unguarded is better than losing them.
     if (errno != EWOULDBLOCK) return true;
     if (std::chrono::steady_clock::now() >= end) return false;
     std::this_thread::sleep_for(kPause);
@@ -49,11 +49,11 @@ bool Lock(const FileHandle& file) {
   return true;
 }
 
-/// The temporary file, ours alone while it is open: two running games must not mix theirs. One left
-/// behind by a crash is taken over.
+/// The temporary file, which is ours alone while it is open: two running games must not mix theirs.
+/// A file that a crash left behind is reused.
 FileHandle OpenTemporary(const fs::path& temporary) {
   while (true) {
-    // A pipe of that name would otherwise wait for a reader.
+    // Otherwise a pipe with that name would wait for a reader.
     FileHandle file(temporary, O_WRONLY | O_CREAT | O_NOFOLLOW | O_NONBLOCK);
     if (!file.IsOpen()) return {};
     if (!IsRegular(file)) {
@@ -65,7 +65,7 @@ FileHandle OpenTemporary(const fs::path& temporary) {
   }
 }
 
-/// Gives the new file the owner, as far as that is allowed, and the permissions of the old one.
+/// Gives the new file the permissions of the old one and, as far as that is allowed, its owner.
 void TakeOver(const FileHandle& file, const fs::path& old) {
   struct stat status {};
   if (stat(old.c_str(), &status) != 0) return;
@@ -73,7 +73,7 @@ void TakeOver(const FileHandle& file, const fs::path& old) {
   fchmod(file.Descriptor(), status.st_mode & ACCESSPERMS);
 }
 
-/// Makes a new name last. Not all file systems can; there is nothing to do about it.
+/// Makes a new name last. Not all file systems can do that, and nothing helps where they cannot.
 void SyncFolder(const fs::path& folder) {
   const FileHandle handle(folder, O_RDONLY | O_DIRECTORY);
   if (handle.IsOpen()) fsync(handle.Descriptor());

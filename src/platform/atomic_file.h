@@ -8,10 +8,10 @@
 
 namespace coilrun {
 
-/// Replaces the whole file, making its folder when needed: after a crash at any moment the old or
-/// the new contents are there. `contents` is asked while no other process can replace the file, and
-/// may call it off with nothing. Permissions stay as they are. An error leaves the old file as it
-/// is.
+/// Replaces the whole file, making its folder when needed: after a crash at any moment either the
+/// old or the new contents are there. `contents` is called while no other process can replace the
+/// file; it returns nothing to call the replacement off. Permissions stay as they are. An error
+/// leaves the old file untouched.
 std::error_code ReplaceFile(const std::filesystem::path& file,
                             const std::function<std::optional<std::string>()>& contents);
 

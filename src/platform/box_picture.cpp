@@ -31,7 +31,7 @@ void Fill(BoxPicture& picture, int x, int y, int width, int height, std::uint32_
   }
 }
 
-/// One channel of `front` over `back`, `share` of 255.
+/// One channel of `front` blended over `back` with an opacity of `share` / 255.
 std::uint32_t Mix(std::uint32_t front, std::uint32_t back, std::uint32_t share, unsigned shift) {
   const std::uint32_t mixed =
       (((front >> shift) & 255U) * share + ((back >> shift) & 255U) * (255U - share)) / 255U;
@@ -52,11 +52,11 @@ void DrawLine(BoxPicture& picture, TextFace& face, const Line& line, int x, int 
   }
 }
 
-/// Appends a paragraph as lines that fit the panel, as far as it has room; a word that does not fit
-/// is cut.
+/// Appends a paragraph as lines that fit the panel, as many as it has room for; a word that is too
+/// long is cut.
 void Wrap(std::vector<Line>& lines, TextFace& face, std::string paragraph) {
   constexpr int kWidth = kPanelWidth - 2 * kMargin;
-  // No line of the narrowest letters is longer; measuring more would take long for a long text.
+  // Even the narrowest letters fill a line by then; measuring more of a long text would take long.
   constexpr std::size_t kLongestLine = 200;
   while (lines.size() < kMostLines) {
     std::size_t fits = std::min(paragraph.size(), kLongestLine);

@@ -20,7 +20,7 @@ std::string TurnSeparators(std::string text) {
   return text;
 }
 
-/// What of `path` lies below `root`: nothing when it is another place.
+/// The part of `path` below `root`; nothing when it lies elsewhere.
 std::optional<std::string_view> Below(std::string_view path, std::string_view root) {
   if (TurnSeparators(std::string(path.substr(0, root.size()))) != TurnSeparators(std::string(root)))
     return std::nullopt;
@@ -47,7 +47,7 @@ DiskFiles::DiskFiles(const std::filesystem::path& program,
 
 std::optional<GamePath> DiskFiles::Parse(const std::string& path) const {
   if (const auto below = Below(path, kProgramFolder)) return ParseGamePath(*below);
-  // One root may lie inside the other: the longer name is the one that is meant.
+  // One root may lie inside the other: the longer name is meant.
   std::optional<std::string_view> rest = Below(path, program_.Text());
   const auto userRest = user_ ? Below(path, user_->Text()) : std::nullopt;
   if (userRest && (!rest || userRest->size() < rest->size())) rest = userRest;
@@ -61,8 +61,7 @@ std::vector<const RealRoot*> DiskFiles::ReadOrder() const {
 
 std::vector<const RealRoot*> DiskFiles::WriteOrder() const {
   std::vector<const RealRoot*> order;
-  // Without a place of the player's an attempt at the program folder tells why it cannot be
-  // written.
+  // Without a per-user folder, trying the program folder tells why it cannot be written.
   if (programWritable_ || (!user_ && !programTaken_)) order.push_back(&program_);
   if (user_) order.push_back(&*user_);
   return order;
@@ -111,7 +110,7 @@ bool DiskFiles::Write(const std::string& path, std::span<const std::uint8_t> con
   for (const RealRoot* root : WriteOrder()) {
     const std::error_code error = root->Write(*parsed, contents);
     if (!error) {
-      // An older copy among the player's own files would hide what was just written.
+      // An older copy in the per-user folder would hide what was just written.
       if (user_ && root == &program_) user_->Delete({&*parsed, 1});
       writeProblems_.erase(ShortName(path));
       return true;

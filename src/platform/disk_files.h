@@ -10,14 +10,14 @@
 
 namespace coilrun {
 
-/// Whether the program folder is this run's to write to, or another running game unpacks into it.
+/// Whether this run may write to the program folder, or another running game unpacks into it.
 enum class ProgramFolder { kOurs, kTaken };
 
-/// The game's files in two real folders: the program folder, and the player's own that covers it
-/// where the program folder cannot be written.
+/// The game's files in two real folders: the program folder, and the per-user folder, which takes
+/// what the program folder cannot.
 class DiskFiles : public Files {
  public:
-  /// `user` may be missing, or the same folder; it is made when something is first written to it.
+  /// `user` may be nothing or the same folder; it is made when something is first written to it.
   /// `probe` tells whether the program folder can be written.
   using Probe = bool (*)(const std::filesystem::path& folder);
   DiskFiles(const std::filesystem::path& program, const std::optional<std::filesystem::path>& user,

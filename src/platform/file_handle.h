@@ -14,11 +14,11 @@ namespace coilrun {
 class FileHandle {
  public:
   FileHandle() = default;
-  /// Takes over what is open already.
+  /// Takes over a file that is already open.
   explicit FileHandle(int descriptor) : descriptor_(descriptor) {}
-  /// Opens with the flags of open(2), never handing the file on to other programs.
+  /// Opens with the flags of open(2), and never passes the file on to other programs.
   FileHandle(const std::filesystem::path& file, int flags);
-  /// The same for what lies in an open folder.
+  /// The same for a file in an open folder.
   FileHandle(const FileHandle& folder, const std::filesystem::path& name, int flags);
   ~FileHandle() { Close(); }
   FileHandle(const FileHandle&) = delete;

@@ -14,7 +14,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Whatever begins with it may be removed, so nobody else must come to such a name by chance.
+/// Whatever begins with this may be removed, so nobody else must choose such a name by chance.
 constexpr std::string_view kOwnPrefix = "coilrun-run-";
 
 bool IsStillThere(const FileHandle& folder, const fs::path& name) {
@@ -35,7 +35,7 @@ FolderClaim::FolderClaim(const fs::path& folder) : folder_(folder, O_RDONLY | O_
 
 OwnFolder::OwnFolder(const fs::path& parent) {
   constexpr int kAttempts = 100;
-  // Another start may take a folder for one that was left, in the moment before it is claimed.
+  // In the moment before a folder is claimed, another start may take it for one that was left.
   for (int attempt = 0; attempt < kAttempts; ++attempt) {
     std::string name = (parent / kOwnPrefix).native() + "XXXXXX";
     if (mkdtemp(name.data()) == nullptr) return;

@@ -6,16 +6,16 @@
 
 namespace coilrun {
 
-/// The claim of one running game to a folder. It goes with the process, however that ends.
+/// A running game's claim to a folder. It ends with the process, however that ends.
 class FolderClaim {
  public:
   FolderClaim() = default;
-  /// Claims the folder when it is there and no other running game has it.
+  /// Claims the folder if it exists and no other running game holds it.
   explicit FolderClaim(const std::filesystem::path& folder);
 
   bool IsHeld() const { return folder_.IsOpen(); }
-  /// Another running game has the folder, or has just removed it. False as well for a folder that
-  /// nobody can claim: a missing one, or one on a disk that knows no locks.
+  /// True when another running game holds the folder or has just removed it. False also for a
+  /// folder that nobody can claim: a missing one, or one on a disk that knows no locks.
   bool IsTaken() const { return taken_; }
 
  private:
@@ -23,8 +23,8 @@ class FolderClaim {
   bool taken_ = false;
 };
 
-/// A fresh folder below `parent`, claimed and removed with all that is in it at the end of its
-/// scope.
+/// A fresh folder below `parent`, which is claimed, and removed with everything in it at the end of
+/// its scope.
 class OwnFolder {
  public:
   explicit OwnFolder(const std::filesystem::path& parent);
@@ -40,7 +40,7 @@ class OwnFolder {
   FolderClaim claim_;
 };
 
-/// Removes the folders of their own that killed games have left below `parent`.
+/// Removes the folders that killed games have left below `parent`.
 void RemoveLeftFolders(const std::filesystem::path& parent);
 
 }  // namespace coilrun

@@ -12,7 +12,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// A folder that an environment variable names; relative ones do not count.
+/// The folder that an environment variable names; relative ones do not count.
 fs::path FromEnvironment(const char* variable) {
   const char* const value = std::getenv(variable);
   const fs::path folder = value == nullptr ? "" : value;

@@ -5,14 +5,14 @@
 
 namespace coilrun {
 
-/// The real places of a run.
+/// The folders that a run uses on this machine.
 struct Folders {
   std::filesystem::path program;
   std::filesystem::path settingsFile;
   std::filesystem::path unpacked;
 };
 
-/// What the process knows about where it runs, apart so that tests can say otherwise. Empty paths
+/// What the process knows about where it runs, kept apart so that tests can replace it. Empty paths
 /// stand for variables that are not set.
 struct Surroundings {
   std::filesystem::path executableFolder;
@@ -23,14 +23,15 @@ struct Surroundings {
 
 Surroundings FindSurroundings();
 
-/// The folder of the executable when it holds "lvl", else the share folder beside its bin folder.
+/// The folder of the executable if it holds "lvl", otherwise the share folder beside its bin
+/// folder.
 std::filesystem::path DefaultProgramFolder(const Surroundings& surroundings);
 /// Everything that belongs to one player in one folder.
 Folders FoldersIn(const std::filesystem::path& program, const std::filesystem::path& user);
-/// The places that the desktop's rules give to a player's files.
+/// The folders where the desktop's rules put a player's files.
 Folders DefaultFolders(const std::filesystem::path& program, const Surroundings& surroundings);
 
-/// An empty folder of our own that is removed, with all that is in it, at the end of its scope.
+/// An empty folder of our own that is removed, with everything in it, at the end of its scope.
 class TemporaryFolder {
  public:
   TemporaryFolder();

@@ -6,9 +6,9 @@ namespace coilrun {
 namespace {
 
 constexpr std::int64_t kFrame = 16'667;
-/// Flips closer than this come from no display that we know (500 a second)...
+/// No display that we know shows frames this close together (500 per second)...
 constexpr std::int64_t kTooFast = 2'000;
-/// ...when so many follow each other.
+/// ...so many times in a row.
 constexpr int kEnoughFastFlips = 30;
 
 }  // namespace

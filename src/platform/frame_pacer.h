@@ -15,11 +15,11 @@ class FramePacer {
   std::int64_t due_ = 0;
 };
 
-/// Finds out whether a display really holds back the flips that it is given.
+/// Finds out whether a display really makes flips wait for it.
 class VsyncWatch {
  public:
   /// Takes the time at the end of a flip; false for good once flips have come far faster than any
-  /// display.
+  /// display works.
   bool HoldsBack(std::int64_t now);
 
  private:

@@ -6,8 +6,8 @@ namespace coilrun {
 namespace {
 
 constexpr std::string_view kSeparators = "\\/";
-/// Characters that no file name of the game's own world can have; the last five are the control
-/// characters of Windows-1252.
+/// Characters that no file name in the game can have; the last five are the control characters of
+/// Windows-1252.
 constexpr std::string_view kForbidden = ":*?\"<>|\x7f\x81\x8d\x8f\x90\x9d";
 
 bool IsForbidden(char character) {
@@ -15,7 +15,7 @@ bool IsForbidden(char character) {
          kForbidden.find(character) != std::string_view::npos;
 }
 
-/// Names of dots and blanks alone mean the folder itself or the one above it.
+/// Names of nothing but dots and blanks mean the folder itself or the one above it.
 bool IsName(std::string_view part) {
   return part.find_first_not_of(". ") != std::string_view::npos &&
          std::none_of(part.begin(), part.end(), IsForbidden);

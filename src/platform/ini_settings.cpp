@@ -43,7 +43,7 @@ IniFile ReadIni(const fs::path& file) {
   return ini;
 }
 
-/// A name beside `file` that is not taken yet.
+/// An unused name beside `file`.
 fs::path NameForDamaged(const fs::path& file) {
   std::error_code error;
   const fs::path name = file.native() + ".damaged";
@@ -87,7 +87,7 @@ IniSettings::IniSettings(fs::path file, const fs::path& defaults, Report report)
   taken_ = store_->text;
   const IniFile shipped = ReadIni(defaults);
   const auto problem = shipped.damage ? shipped.damage : shipped.unreadable;
-  if (problem) report_("The default settings " + defaults.string() + " are left out: " + *problem);
+  if (problem) report_("The default settings " + defaults.string() + " are ignored: " + *problem);
   if (!problem) defaults_->ini.LoadData(shipped.text);
 }
 
@@ -107,7 +107,7 @@ std::unique_ptr<IniSettings::Store> IniSettings::ReadStore() {
     store->text = stored.text;
     return store;
   }
-  SetAside(stored.damage.value_or("it cannot be taken apart"));
+  SetAside(stored.damage.value_or("it cannot be parsed"));
   return nullptr;
 }
 
@@ -134,7 +134,7 @@ std::optional<std::string> IniSettings::Shipped(std::string_view section,
 void IniSettings::TakeAsRead(std::string_view section, std::string_view key,
                              std::string_view value) {
   const Key id{section, key};
-  // What could not be saved yet is still this instance's own.
+  // What could not be saved yet still counts as a change of this instance.
   if (!set_.contains(id)) known_[id] = {std::string(value), store_->Get(section, key)};
 }
 
@@ -186,7 +186,7 @@ bool IniSettings::Save() {
   return Fails("The settings cannot be written to " + file_.string() + ": " + error.message());
 }
 
-/// The store on disk with what this instance has changed; nothing when it must not be overwritten.
+/// The store on disk with this instance's changes; nothing when it must not be overwritten.
 std::unique_ptr<IniSettings::Store> IniSettings::MergedStore() {
   auto stored = ReadStore();
   if (!overwritingAllowed_) return nullptr;
@@ -204,7 +204,7 @@ void IniSettings::RememberAsWritten(const Store& written) {
     if (own == written.Get(key.first, key.second)) known_[key] = {own, own};
   }
   set_.clear();
-  // What others have stored is news until it is taken in.
+  // What others have stored counts as new until it is taken in.
   if (written.text == taken_) taken_ = written.Text();
 }
 

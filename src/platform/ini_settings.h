@@ -13,15 +13,15 @@
 
 namespace coilrun {
 
-/// The settings in one INI file (UTF-8), over the shipped defaults. Several running games may share
-/// the file: each writes only what it has changed. What is wrong with the file is told to `report`,
-/// each thing once.
+/// The settings in one INI file (UTF-8), on top of the shipped defaults. Several running games may
+/// share the file: each writes only what it has changed. `report` is told what is wrong with the
+/// file, each thing once.
 class IniSettings : public SettingsStore {
  public:
   using Report = std::function<void(const std::string& line)>;
 
-  /// Reads both files. A damaged `file` is renamed to "NAME.damaged" (numbered when that exists),
-  /// and the store starts empty; one that cannot be read is never written.
+  /// Reads both files. A damaged `file` is renamed to "NAME.damaged" (numbered if that exists), and
+  /// the store starts empty; a file that cannot be read is never written.
   IniSettings(std::filesystem::path file, const std::filesystem::path& defaults, Report report);
   ~IniSettings() override;
 
@@ -35,7 +35,7 @@ class IniSettings : public SettingsStore {
  private:
   struct Store;
   using Key = std::pair<std::string, std::string>;
-  /// A value as this game has last read or written it, and as it stood in the file then.
+  /// A value as this game last read or wrote it, and as it stood in the file at that time.
   struct Known {
     std::optional<std::string> value;
     std::optional<std::string> stored;
@@ -51,14 +51,14 @@ class IniSettings : public SettingsStore {
 
   std::filesystem::path file_;
   Report report_;
-  /// The file as this instance has last read it, or written it with nothing in it that is unread.
+  /// The file as this instance last read it, or wrote it with nothing unread in it.
   std::string taken_;
   bool overwritingAllowed_ = true;
   bool failureReported_ = false;
-  /// As this instance has last read it, with its own changes.
+  /// The store as this instance last read it, with its own changes.
   std::unique_ptr<Store> store_;
   std::unique_ptr<Store> defaults_;
-  /// Every value that was told as read or has been set.
+  /// Every value that was noted as read or has been set.
   std::map<Key, Known> known_;
   /// What has been set since the last save.
   std::set<Key> set_;

@@ -3,7 +3,7 @@
 namespace coilrun {
 namespace {
 
-/// What a key may do ahead of the game (five taps) before further taps are dropped.
+/// How many changes of a key may wait for the game (five taps) before further taps are dropped.
 constexpr std::uint8_t kMostPending = 10;
 
 bool IsCode(int code) {
@@ -16,7 +16,7 @@ void KeyQueue::Hold(std::size_t code, std::uint8_t holders) {
   const bool wasDown = holders_[code] != 0;
   holders_[code] = holders;
   if (wasDown == (holders != 0)) return;
-  // The last two of too many cancel each other out.
+  // Beyond that, the last two cancel each other out.
   pending_[code] = static_cast<std::uint8_t>(pending_[code] < kMostPending ? pending_[code] + 1
                                                                            : pending_[code] - 1);
 }

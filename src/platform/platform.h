@@ -11,19 +11,19 @@
 
 namespace coilrun {
 
-/// Where a run finds its files and how it shows itself. `windowed` counts in a window only, `fps`
-/// (1 to 1000) headless only.
+/// Where a run finds its files and how it shows itself. `windowed` only matters in a window, `fps`
+/// (1 to 1000) only in headless runs.
 struct PlatformOptions {
   /// The program folder; nothing for the folder of the executable or the installed share folder.
   std::optional<std::filesystem::path> data;
-  /// Holds the settings and, in "data", unpacked files; nothing for the per-user folders (headless:
-  /// a fresh one that is removed at the end).
+  /// Holds the settings and, in "data", unpacked files; nothing for the per-user folders (in
+  /// headless runs, a fresh one that is removed at the end).
   std::optional<std::filesystem::path> user;
   bool windowed = false;
   int fps = 100;
   /// Whether the system has asked the program to leave; asked while a message box waits.
   std::function<bool()> stopped = [] { return false; };
-  /// Takes one line for each thing that is wrong but does not end the game (a damaged settings
+  /// Is given one line for each thing that is wrong but does not end the game (a damaged settings
   /// file, missing fonts); each is reported once.
   std::function<void(const std::string& line)> report = [](const std::string&) {};
 };
@@ -42,13 +42,13 @@ class WindowPlatform : public Platform {
   virtual MessageBox& Boxes() = 0;
 };
 
-/// No window, no sound, virtual time. Keys and answers are the script's business.
+/// No window, no sound, virtual time. Keys and answers come from the script.
 class HeadlessPlatform : public Platform {
  public:
   virtual PictureSink& Pictures() = 0;
 };
 
-/// What a maker made: the platform, or else the reason in words why there is none.
+/// What a maker made: the platform, or the reason in words why there is none.
 template <typename Made>
 struct PlatformResult {
   std::unique_ptr<Made> platform;

@@ -7,7 +7,7 @@ namespace {
 
 constexpr png_uint_32 kLargestIcon = 1024;
 
-/// A picture in the hands of libpng, given back at the end of its scope.
+/// A picture that libpng holds, released at the end of its scope.
 struct PngImage {
   PngImage() { image.version = PNG_IMAGE_VERSION; }
   ~PngImage() { png_image_free(&image); }

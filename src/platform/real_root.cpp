@@ -46,7 +46,7 @@ bool IsFile(const fs::path& place) {
   return fs::is_regular_file(place, error);
 }
 
-/// The game text of a name on disk; nothing for names that no game text can say.
+/// A name on disk as game text; nothing for names that game text cannot express.
 std::optional<std::string> GameName(const fs::path& name) {
   const std::string text = FromUtf8(name.native());
   if (ToUtf8(text) != name.native() || text.find('\\') != std::string::npos) return std::nullopt;
@@ -63,7 +63,7 @@ std::vector<fs::path> NamesIn(const fs::path& folder) {
   return names;
 }
 
-/// The entry of that name: the very same one, else the first that differs in case only.
+/// The entry with that name: an exact match, otherwise the first that differs only in case.
 std::optional<fs::path> FindIn(const fs::path& folder, const std::string& name) {
   const fs::path same = folder / ToUtf8(name);
   if (IsThere(same)) return same;
@@ -75,7 +75,7 @@ std::optional<fs::path> FindIn(const fs::path& folder, const std::string& name) 
   return std::nullopt;
 }
 
-/// What a file is called until it is whole: also a name of the greatest length needs one.
+/// The name of a file until it is whole: even a name of the greatest length needs one.
 fs::path UnfinishedName(const fs::path& place) {
   constexpr std::size_t kLongest = 240;
   return place.parent_path() / (place.filename().native().substr(0, kLongest) + ".unfinished");
@@ -167,7 +167,7 @@ std::error_code RealRoot::Write(const GamePath& path,
   const fs::path place = FindIn(*folder, path.back()).value_or(*folder / ToUtf8(path.back()));
   if (IsThere(place) && !(Holds(place) && IsFile(place)))
     return std::make_error_code(std::errc::operation_not_permitted);
-  // A new file in place of the old one: never half a file, nor a write through a link elsewhere.
+  // A new file replaces the old one: never half a file, nor a write through a link to elsewhere.
   const fs::path unfinished = UnfinishedName(place);
   unlink(unfinished.c_str());
   FileHandle file(unfinished, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW);
@@ -180,7 +180,7 @@ std::error_code RealRoot::Write(const GamePath& path,
   return error;
 }
 
-/// Deletes files of one root, and knows the names in the folders that it has seen.
+/// Deletes files in one root, and remembers the names in the folders that it has seen.
 class RealRoot::Deletion {
  public:
   explicit Deletion(const RealRoot& root) : root_(root) {}
@@ -197,7 +197,7 @@ class RealRoot::Deletion {
     const auto found = names.Find(path.back());
     const fs::path place = folder / found.value_or(ToUtf8(path.back()));
     const bool deleted = found && IsFile(place) && root_.Holds(place) && unlink(place.c_str()) == 0;
-    // What a kill in the middle of a write has left.
+    // Left behind by a kill in the middle of a write.
     const fs::path unfinished = UnfinishedName(place);
     const bool cleared = names.Has(unfinished.filename()) && unlink(unfinished.c_str()) == 0;
     return deleted || cleared;
@@ -214,7 +214,7 @@ class RealRoot::Deletion {
       }
     }
     bool Has(const std::string& name) const { return names_.contains(name); }
-    /// As `FindIn` finds them.
+    /// Finds a name the way `FindIn` does.
     std::optional<std::string> Find(const std::string& gameName) const {
       std::string same = ToUtf8(gameName);
       if (Has(same)) return same;

@@ -6,8 +6,8 @@
 namespace coilrun {
 namespace {
 
-/// A whole-number scale is taken when it gives at least this part of the largest picture: sharp
-/// pixels are worth a rim, a stamp in the middle of the screen is not.
+/// A whole-number scale is used when it gives at least this part of the largest possible picture:
+/// sharp pixels are worth a border, but not a tiny picture.
 constexpr double kWellFilled = 0.8;
 
 }  // namespace

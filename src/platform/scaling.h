@@ -17,7 +17,7 @@ struct Area {
   bool operator==(const Area&) const = default;
 };
 
-/// Rows from `first` up to, but without, `end`.
+/// Rows from `first` up to, but not including, `end`.
 struct RowRange {
   int first = 0;
   int end = 0;
@@ -31,8 +31,8 @@ struct Canvas {
   int stride = 0;
 };
 
-/// Where a window of this size (1 x 1 at least) shows the screen: centred, scaled by a whole number
-/// when that fills the window well, else as large as fits.
+/// Where a window of this size (at least 1 x 1) shows the screen: centred, and scaled by a whole
+/// number if that fills the window well, otherwise as large as fits.
 Area PictureArea(int windowWidth, int windowHeight);
 
 /// The screen rows that differ between two pictures; an empty range when none does.
@@ -44,7 +44,7 @@ RowRange CanvasRows(const RowRange& screenRows, const Area& area);
 /// Draws the screen into an area of a canvas by nearest neighbours.
 class Scaler {
  public:
-  /// Draws the given rows of the area; the area lies on the canvas as a whole.
+  /// Draws the given rows of the area; the whole area lies on the canvas.
   void Draw(ScreenPixels screen, const RowRange& canvasRows, const Area& area,
             const Canvas& canvas);
 

@@ -36,7 +36,7 @@ WaveFormat ReadFormat(std::span<const std::uint8_t> chunk) {
   format.kind = reader.U16();
   format.channels = reader.U16();
   format.rate = reader.U32();
-  reader.Skip(6);  // bytes a second, bytes a frame
+  reader.Skip(6);  // bytes per second, bytes per frame
   format.bits = reader.U16();
   return reader.Ok() ? format : WaveFormat{};
 }
@@ -63,7 +63,7 @@ std::optional<OggPage> ReadPage(ByteReader& reader) {
   return page;
 }
 
-/// Samples a second, from the header packet; 0 when it is no Vorbis.
+/// Samples per second, from the header packet; 0 when it is not Vorbis.
 std::uint32_t VorbisRate(std::span<const std::uint8_t> packet) {
   ByteReader reader(packet);
   if (!TakesText(reader, "\x01vorbis")) return 0;

@@ -8,7 +8,7 @@ namespace {
 
 constexpr int kTakeAt = 16'000;
 constexpr int kLetGoAt = 11'000;
-/// How much more to the other axis a held direction has to lean before it changes.
+/// How much further the stick must lean to the other axis before a held direction changes.
 constexpr int kAxisGrip = 4'000;
 
 bool IsSideways(PadDirection direction) {

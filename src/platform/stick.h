@@ -6,11 +6,12 @@
 
 namespace coilrun {
 
-/// Turns a controller's stick into one direction at a time: the one that it leans to most.
+/// Turns a controller's stick into one direction at a time: the one that it leans towards most.
 class Stick {
  public:
-  /// Takes the lean (-32768 to 32767, y downwards) and gives the direction, or nothing. It is let
-  /// go nearer to the middle than it was taken, so a trembling hand steers steadily.
+  /// Takes the lean (-32768 to 32767, y downwards) and returns the direction, or nothing. A
+  /// direction is released nearer to the middle than it is taken, so that a trembling hand steers
+  /// steadily.
   std::optional<PadDirection> Lean(int x, int y);
 
  private:

@@ -5,13 +5,13 @@
 
 namespace coilrun {
 
-/// The system's requests to leave: SIGTERM, SIGINT and SIGHUP, read instead of being delivered. To
-/// be made before the process has a second thread.
+/// The system's requests to leave: SIGTERM, SIGINT and SIGHUP, which are read instead of being
+/// delivered. Must be made before the process has a second thread.
 class StopSignals {
  public:
   StopSignals();
 
-  /// Whether one has come, now or earlier.
+  /// Whether one has arrived, now or earlier.
   bool Arrived();
 
  private:
@@ -19,7 +19,7 @@ class StopSignals {
   bool arrived_ = false;
 };
 
-/// A key source for which a request to leave closes the window.
+/// A key source that closes the window when the system asks the program to leave.
 class StoppableKeys : public KeySource {
  public:
   StoppableKeys(StopSignals& signals, KeySource& keys) : signals_(signals), keys_(keys) {}

@@ -7,7 +7,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Only a folder that is there can be claimed.
+/// Only a folder that exists can be claimed.
 const fs::path& Made(const fs::path& folder) {
   std::error_code error;
   fs::create_directories(folder, error);
@@ -23,7 +23,7 @@ UnpackPlaces::UnpackPlaces(const Folders& folders)
       unpacked_(folders.unpacked) {
   RemoveLeftFolders(folders.unpacked);
   std::error_code error;
-  // This run's own claim to a folder that is both would look like another game's.
+  // If both are one folder, its second claim fails because of the first, so the first one counts.
   const bool same = fs::equivalent(folders.program, folders.unpacked, error);
   const bool free = !(same ? program_ : user_).IsTaken();
   if (free && (!program_.IsTaken() || CanWriteInto(folders.unpacked))) return;

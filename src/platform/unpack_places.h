@@ -9,13 +9,15 @@
 
 namespace coilrun {
 
-/// Where this run unpacks. A folder that another running game unpacks into is left to it: then the
-/// files go to a folder of this run's own, among the player's or else among temporary files.
+/// Where this run unpacks. A folder that another running game unpacks into is left to that game:
+/// this run's files then go to a folder of their own, below the per-user folder or else the
+/// temporary files.
 class UnpackPlaces {
  public:
   explicit UnpackPlaces(const Folders& folders);
 
-  /// The program folder and what covers it; not to be used after the object's end.
+  /// The files in the program folder and in what covers it; must not be used after this object
+  /// ends.
   DiskFiles MakeFiles() const;
 
  private:
@@ -24,7 +26,7 @@ class UnpackPlaces {
   std::filesystem::path programFolder_;
   FolderClaim program_;
   FolderClaim user_;
-  /// Nothing when there is no place but the program folder.
+  /// Nothing when the program folder is the only place.
   std::optional<std::filesystem::path> unpacked_;
   std::optional<OwnFolder> own_;
 };

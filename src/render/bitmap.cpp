@@ -14,7 +14,7 @@ constexpr std::size_t kFileHeader = 14;
 constexpr std::uint32_t kCoreHeader = 12;
 constexpr std::uint32_t kInfoHeader = 40;
 constexpr std::uint16_t kMagic = 0x4D42;
-/// Compression kinds: none, and none with channel masks.
+/// The two kinds of compression that are none: plain, and with channel masks.
 constexpr std::uint32_t kPlain = 0;
 constexpr std::uint32_t kMasks = 3;
 
@@ -42,7 +42,7 @@ bool IsAllowedSize(std::int64_t width, std::int64_t height) {
          width * height <= kMaxPixels;
 }
 
-/// Masks are taken only where they name the usual places of red, green and blue.
+/// Masks are accepted only when they name the usual places of red, green and blue.
 bool HasUsualMasks(ByteReader& reader) {
   return reader.U32() == 0xFF0000 && reader.U32() == 0xFF00 && reader.U32() == 0xFF;
 }
@@ -60,8 +60,8 @@ void ReadPalette(ByteReader& reader, Layout& layout, std::uint32_t used, bool co
   }
 }
 
-/// Sizes, depth and compression of the longer headers; the number of palette colours, or nothing
-/// when the picture is of no kind that is read here.
+/// Reads sizes, depth and compression from the longer headers; returns the number of palette
+/// colours, or nothing when the picture is of no kind that is read here.
 std::optional<std::uint32_t> ReadInfoHeader(ByteReader& reader, Layout& layout,
                                             std::int64_t& height) {
   layout.width = reader.I32();
@@ -122,7 +122,7 @@ std::optional<Bitmap> DecodeBmp(std::span<const std::uint8_t> file) {
   const auto layout = ReadLayout(file);
   if (!layout) return std::nullopt;
   const auto rows = static_cast<std::size_t>(layout->height);
-  // The last row's padding may be missing; some programs save it so.
+  // The last row's padding may be missing: some programs save without it.
   const std::size_t rowBytes = (layout->RowBits() + 7) / 8;
   const std::size_t needed = layout->Stride() * (rows - 1) + rowBytes;
   ByteReader reader(file);

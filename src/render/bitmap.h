@@ -16,12 +16,12 @@ struct Bitmap {
   std::vector<Pixel> pixels;
 };
 
-/// Decodes an uncompressed Windows bitmap of 1, 4, 8, 24 or 32 bits a pixel, stored from the bottom
-/// up or from the top down. Nothing when the bytes are no such bitmap, end too early, or ask for
-/// more than 4096 pixels a side or 4 million in all.
+/// Decodes an uncompressed Windows bitmap of 1, 4, 8, 24 or 32 bits per pixel, stored bottom-up or
+/// top-down. Nothing when the bytes are no such bitmap, end too early, or ask for more than 4096
+/// pixels on a side or 4 million in all.
 std::optional<Bitmap> DecodeBmp(std::span<const std::uint8_t> file);
 
-/// The bitmap in another size, by nearest neighbour.
+/// The bitmap scaled to another size by nearest neighbour.
 Bitmap Resized(const Bitmap& bitmap, int width, int height);
 
 }  // namespace coilrun

@@ -7,9 +7,9 @@
 namespace coilrun {
 namespace {
 
-/// Size of a glyph cell, and by how much glyphs are moved together, in hundredths of a pixel: whole
-/// numbers, so that a half is a half when it is rounded. Then the further cells: where they start,
-/// and what the second row of them holds.
+/// The size of a glyph cell and how much closer together glyphs are set, in hundredths of a pixel:
+/// whole numbers, so that a half is exactly a half when it is rounded. Then the further cells:
+/// where they start, and what their second row holds.
 struct FontMetrics {
   Standard sheet;
   int width;
@@ -19,7 +19,7 @@ struct FontMetrics {
   std::string_view furtherLetters;
 };
 constexpr int kPixel = 100;
-/// Longer texts are measured as if they ended here: many screens wide.
+/// Longer texts are measured as if they ended here, many screens wide.
 constexpr std::size_t kLongestText = 100000;
 
 /// Small sheets have room beside the letters, large ones below the digits.
@@ -45,7 +45,7 @@ constexpr std::string_view kSigns = ".:-+*/()=\\_!?";
 /// Blanks and all characters without a cell of their own.
 constexpr GlyphCell kOtherCell{10, 2};
 
-/// Exact: a quotient of whole numbers that is a half has that half in binary too.
+/// Exact: when a quotient of whole numbers ends in a half, so does its binary form.
 int ToPixels(int hundredths) {
   return RoundToInt(static_cast<double>(hundredths) / kPixel);
 }
@@ -54,7 +54,7 @@ const FontMetrics& Metrics(int font) {
   return kFonts.at(static_cast<std::size_t>(font - 1));
 }
 
-/// Sheets made before there were further cells have nothing there.
+/// False in the further cells of a sheet that has none.
 bool HasInk(const Picture& glyph) {
   return !glyph.Opaque().groups.empty();
 }

@@ -11,15 +11,15 @@ namespace coilrun {
 
 inline constexpr int kBitmapFonts = 6;
 
-/// The six fonts whose glyphs are cut from picture sheets when these are loaded. Texts are
+/// The six fonts whose glyphs are cut from picture sheets when those are loaded. Texts are
 /// Windows-1252.
 class BitmapFonts {
  public:
-  /// Cuts all glyphs anew.
+  /// Cuts all glyphs again.
   void CutGlyphs(const StandardPictures& sheets);
 
-  /// Width by which callers centre and align a text: a little more than its ink. 0 for a font that
-  /// does not exist.
+  /// The width by which callers centre and align a text: a little more than its ink. 0 for a font
+  /// that does not exist.
   static int Width(std::string_view text, int font);
   /// Draws a text with its first cell at `x`, `y`; a glyph that leaves the screen is left out.
   void Draw(Surface& target, std::string_view text, int x, int y, int font) const;
@@ -28,9 +28,9 @@ class BitmapFonts {
 
  private:
   struct Font {
-    /// The first is that of all characters without one of their own.
+    /// The first stands for all characters without a glyph of their own.
     std::vector<Picture> glyphs = std::vector<Picture>(1);
-    /// By character code, which glyph.
+    /// The number of the glyph, by character code.
     std::array<std::uint8_t, 256> glyphOf{};
   };
   static Font Cut(int font, const Picture& sheet);
@@ -38,7 +38,7 @@ class BitmapFonts {
   std::array<Font, kBitmapFonts> fonts_;
 };
 
-/// Place of a glyph on a font sheet.
+/// The place of a glyph on a font sheet.
 struct GlyphCell {
   int column = 0;
   int row = 0;

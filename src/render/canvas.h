@@ -7,8 +7,8 @@
 
 namespace coilrun {
 
-/// The back buffer that everything is drawn on, the primary that is shown, and the log of the
-/// texts on them.
+/// The back buffer that everything is drawn on, the primary buffer that is shown, and the log of
+/// the texts on them.
 class Canvas {
  public:
   explicit Canvas(OutputLog& log) : log_(log) {}
@@ -20,14 +20,14 @@ class Canvas {
   Surface& Primary() { return primary_; }
   const Surface& Primary() const { return primary_; }
 
-  /// Fills the whole back buffer; its texts are gone.
+  /// Fills the whole back buffer and forgets its texts.
   void FillBack(Color color);
-  /// Draws a picture of the size of the screen, unkeyed, over a back buffer that is black where
-  /// there is none.
+  /// Draws a picture the size of the screen without its colour key; without a picture the back
+  /// buffer is black.
   void DrawWhole(const Picture& picture);
-  /// Notes a text that was drawn on the back buffer; an empty one is not worth a note.
+  /// Notes a text that was drawn on the back buffer, unless it is empty.
   void RecordText(std::string_view text, int x, int y, std::string_view font);
-  /// Swaps back and primary: the new back buffer holds an older frame.
+  /// Swaps the two buffers: the new back buffer holds an older frame.
   void FlipBuffers();
 
  private:

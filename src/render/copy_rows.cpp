@@ -8,8 +8,8 @@
 namespace coilrun {
 namespace {
 
-// What follows is compiled once for each size of registers. Drawing is most of a frame's work, and
-// this is most of drawing.
+// What follows is compiled once for each register size. Drawing is most of a frame's work, and this
+// is most of drawing.
 
 template <std::size_t kPixels>
 struct Block {
@@ -24,8 +24,8 @@ template <std::size_t kPixels>
   *reinterpret_cast<Type*>(to) = *reinterpret_cast<const Type*>(from);  // NOLINT: may alias
 }
 
-/// Copies blocks of `kBlock` pixels and a last, narrower one that ends where the row ends: it may
-/// reach back over pixels that are copied already.
+/// Copies blocks of `kBlock` pixels and a last, narrower one that ends where the row ends and may
+/// overlap pixels that are already copied.
 template <std::size_t kBlock, std::size_t kWidth>
 [[gnu::always_inline]] inline void CopyRow(const Pixel* from, Pixel* to) {
   if constexpr (kWidth < kBlock) {
@@ -67,7 +67,7 @@ template <std::size_t kBlock, std::size_t kWidth>
   } while (++cursor.place != end);
 }
 
-/// A number for each way to copy a group, so that one jump leads there.
+/// A number for each way to copy a group, so that a single jump selects it.
 constexpr std::size_t NumberOf(RowGroup group) {
   return std::size_t{2} * (group.width - 1U) + (group.stacked ? 1 : 0);
 }
@@ -81,7 +81,7 @@ template <std::size_t kBlock, std::size_t kNumber>
   return true;
 }
 
-/// Becomes the jump.
+/// The compiler turns this into that jump.
 template <std::size_t kBlock, std::size_t... kIndices>
 [[gnu::always_inline]] inline void CopyGroup(RowGroup group, Cursor& cursor, Pixel* to,
                                              std::index_sequence<kIndices...>) {

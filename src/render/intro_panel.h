@@ -8,12 +8,13 @@
 
 namespace coilrun {
 
-/// The panel that tells of loading: caption, console lines and a bar, straight on the primary.
+/// The panel that shows the progress of loading: caption, console lines and a bar, drawn straight
+/// on the primary buffer.
 class IntroPanel {
  public:
   IntroPanel(State& state, Canvas& canvas, TextFace& textFace, Pump& pump, const Files& files);
 
-  /// Draws the panel as the feed describes it and presents it; nothing while it is hidden.
+  /// Draws the panel as the feed describes it and presents it; does nothing while it is hidden.
   void Show();
   /// Sets caption and progress (percent) and shows the panel.
   void SetCaption(std::string_view caption);

@@ -12,7 +12,7 @@ constexpr Rect kPowerPart{0, 0, 22, 21};
 struct KindFiles {
   std::string_view flat;
   std::string_view folder;      ///< of the frames
-  std::string_view iconFolder;  ///< spelt as the panel asks for it: a slot of its own
+  std::string_view iconFolder;  ///< the same, as the panel spells it: it takes a slot of its own
 };
 
 constexpr std::array<KindFiles, kItemKinds> kFiles = {

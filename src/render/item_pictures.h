@@ -11,11 +11,11 @@
 
 namespace coilrun {
 
-/// The folder of a kind's frames below gfx, with a backslash at its end, and their colour key.
+/// The folder of a kind's frames below gfx, ending in a backslash, and their colour key.
 std::string_view FrameFolder(ItemKind kind);
 KeyMode FrameKey(ItemKind kind);
 
-/// A picture of the store and the part of it that is drawn.
+/// A picture in the store and the part of it that is drawn.
 struct ItemPicture {
   NamedPicture picture;
   Rect part;
@@ -27,14 +27,14 @@ class ItemPictures {
   explicit ItemPictures(PictureStore& store);
 
   ItemPicture& Flat(ItemKind kind) { return flat_[static_cast<std::size_t>(kind)]; }
-  /// `frame` is 1 to `kAnimationFrames`; beyond, the nearest.
+  /// `frame` is 1 to `kAnimationFrames`; other numbers give the nearest.
   ItemPicture& Frame(ItemKind kind, int frame);
   /// The icon of a kind on the item panel and the level screen.
   ItemPicture& Icon(ItemKind kind, bool animated);
-  /// The picture of a user item of a drawn type, nothing for other types.
+  /// The picture of a user item whose type is drawn; nothing for other types.
   NamedPicture* UserItem(const UserItemRec& item, int frame);
 
-  /// Draws it keyed on the back buffer.
+  /// Draws it on the back buffer with its colour key.
   void Draw(Surface& target, ItemPicture& item, int x, int y);
   const Picture& Fetch(NamedPicture& picture) { return store_.Fetch(picture); }
 

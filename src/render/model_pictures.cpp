@@ -9,7 +9,7 @@ using enum ModelPiece;
 
 constexpr PictureSize kPieceSize{kModelSide, kModelSide};
 
-/// By number of the piece.
+/// By the number of the piece.
 constexpr std::array<std::string_view, kModelPieces> kFiles = {
     "head_forw.bmp",   "head_back.bmp",  "head_left.bmp",   "head_right.bmp",  "Snake_forw.bmp",
     "Snake_back.bmp",  "Snake_left.bmp", "Snake_right.bmp", "Snake_b_l.bmp",   "Snake_b_r.bmp",

@@ -9,7 +9,7 @@
 
 namespace coilrun {
 
-/// The pictures that a snake is drawn with, numbered as a model pack's files.
+/// The pictures that a snake is drawn with, numbered like a model pack's files.
 enum class ModelPiece : std::uint8_t {
   kHeadForw,
   kHeadBack,
@@ -57,7 +57,7 @@ class ModelPictures {
   /// flags ask for them; the others are unset.
   void LoadModelPictures(int model);
 
-  /// Those of pack 0 for a number without a pack; unset without any pack.
+  /// A model without a pack gets the pictures of pack 0; they are unset when there are no packs.
   const Picture& operator()(int model, ModelPiece piece) const {
     const int shown = ShownModel(state_, model);
     if (shown < 0 || shown >= kMaxModelPacks) return unset_;

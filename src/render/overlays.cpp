@@ -19,7 +19,7 @@ bool Multiplayer(const State& state) {
   return IsMultiplayer(state.mode.GameMode);
 }
 
-/// The panel's places: icons (animated ones stand two pixels higher) and counters.
+/// The places on the panel: icons (animated ones sit two pixels higher) and counters.
 struct PanelPlace {
   ItemKind kind;
   int iconX;
@@ -72,8 +72,7 @@ std::string StatsLine(const State& state, const SnakeRec& snake) {
          " time";
 }
 
-/// The lights' colours by phase 1 to 3; phases 0 and 4 are the first row. The row of four turns by
-/// one a phase.
+/// The lights' colours in phases 0 and 4. In each phase the row of four moves on by one.
 constexpr std::array<Standard, 4> kLightColours = {Standard::kLedRed, Standard::kLedGreen,
                                                    Standard::kLedYellow, Standard::kLedBlue};
 constexpr int kLights = 5;
@@ -112,7 +111,7 @@ void Overlays::DrawStatusLine() {
     text_.DrawBmpText(score + " Lives: " + to_string(player.Lives) + "  " + level, 20, 20, 3);
   }
   if (!state_.shell.ShowFPS) return;
-  // Placed by the width of another font than it is drawn in: its place of old.
+  // Placed on purpose by the width of font 4, though it is drawn in font 3.
   const std::string fps = "FPS: " + to_string(state_.shell.Fps);
   text_.DrawBmpText(fps, kScreenWidth - (BitmapFonts::Width(fps, 4) + 25), 20, 3);
 }

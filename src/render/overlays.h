@@ -23,7 +23,7 @@ class Overlays {
   void DrawItemPanel();
   void DrawMatchStats();
   void DrawCenterLines();
-  /// What a wait has laid over the frame: the time-limit texts or the game-over picture.
+  /// What a wait lays over the frame: the time-limit texts or the game-over picture.
   void DrawWaitOverlay();
 
   /// The level-start / statistics screen over a complete frame.

@@ -11,7 +11,7 @@
 namespace coilrun {
 namespace {
 
-/// Where opaque pixels that lie side by side in a row start, by how many they are.
+/// Where runs of opaque pixels start, by their width.
 using StartsByWidth = std::map<int, std::vector<Point>>;
 
 StartsByWidth FindOpaque(const Bitmap& bitmap, KeyMode key) {
@@ -32,8 +32,8 @@ StartsByWidth FindOpaque(const Bitmap& bitmap, KeyMode key) {
   return starts;
 }
 
-/// Cuts rows of a width that is rare in the picture into two of a common one, which overlap: to go
-/// from width to width costs more than a few rows twice.
+/// Cuts rows of a width that is rare in the picture into two overlapping rows of a common width:
+/// switching between widths costs more than copying a few rows twice.
 StartsByWidth JoinRareWidths(const StartsByWidth& starts) {
   constexpr std::size_t kRare = 3;
   constexpr int kNarrow = 4;

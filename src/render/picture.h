@@ -27,8 +27,8 @@ constexpr bool IsTransparent(KeyMode key, Pixel pixel) {
   return (pixel >> 16) <= 10 && (pixel >> 8 & 0xFF) <= 10 && (pixel & 0xFF) <= 10;
 }
 
-/// A picture held in memory, its colour key resolved. A default-made one is unset: drawing it draws
-/// nothing.
+/// A picture held in memory, with its colour key resolved. A default-constructed one is unset:
+/// drawing it draws nothing.
 class Picture {
  public:
   Picture() = default;
@@ -43,7 +43,7 @@ class Picture {
   /// A part as a picture of its own; unset when it does not lie wholly inside.
   Picture Cut(const Rect& part) const;
 
-  /// What a keyed draw of the whole picture copies, in places from the picture's top left.
+  /// What a keyed draw of the whole picture copies; places count from the picture's top left.
   const PixelRows& Opaque() const { return opaque_; }
 
  private:

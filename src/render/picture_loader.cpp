@@ -36,7 +36,7 @@ Picture PictureLoader::Load(const std::string& path, std::optional<PictureSize> 
   auto bitmap = DecodeBmp(*file);
   if (!bitmap) return {};
   if (!size) {
-    // Nothing that is larger than the screen was ever meant to be drawn whole.
+    // Nothing larger than the screen is ever drawn whole.
     if (bitmap->width > kScreenWidth || bitmap->height > kScreenHeight) return {};
   } else if (size->width != bitmap->width || size->height != bitmap->height) {
     bitmap = Resized(*bitmap, size->width, size->height);

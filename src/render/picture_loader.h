@@ -12,10 +12,10 @@
 
 namespace coilrun {
 
-/// How a picture is loaded: `DD_CreateSurfFromFile`'s flags.
+/// How a picture is loaded: the flags of `DD_CreateSurfFromFile`.
 struct LoadFlags {
-  bool modelPicture = false;  ///< belongs to a model pack: a missing one is only a console line
-  bool counted = false;       ///< moves the progress bar while the program starts
+  bool modelPicture = false;  ///< belongs to a model pack: a missing one only costs a console line
+  bool counted = false;       ///< advances the progress bar while the program starts
 };
 
 struct PictureSize {
@@ -32,8 +32,8 @@ class PictureLoader {
                 std::function<void()> giveUp);
 
   /// The picture in exactly that size (a bitmap of another size is stretched), or in the bitmap's
-  /// own without one. Unset when the file is missing or no bitmap; a missing one asks the player
-  /// while the program starts.
+  /// own size if none is given. Unset when the file is missing or not a bitmap; while the program
+  /// starts, the player is asked about a missing one.
   Picture DD_CreateSurfFromFile(const std::string& path, std::optional<PictureSize> size,
                                 KeyMode key, LoadFlags flags = {});
 

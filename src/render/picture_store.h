@@ -14,7 +14,7 @@ namespace coilrun {
 inline constexpr int kPicBuffers = 1024;
 
 /// A picture that is drawn by name again and again. Remembers its slot for as long as the store
-/// holds it, so that a frame builds and looks up no paths.
+/// holds it, so that drawing a frame neither builds nor looks up paths.
 struct NamedPicture {
   NamedPicture() = default;
   NamedPicture(std::string nameBelowGfx, KeyMode keyMode)
@@ -32,16 +32,16 @@ class PictureStore {
  public:
   PictureStore(State& state, PictureLoader& loader);
 
-  /// The picture, loaded if it must be. Unset when it cannot be loaded, which one console line
-  /// tells. Valid until the store is cleared.
+  /// The picture, loaded if necessary. Unset when it cannot be loaded, which one console line
+  /// reports. Valid until the store is cleared.
   const Picture& Fetch(NamedPicture& picture);
 
-  /// True when the picture is in the store or can be loaded; one that could not be is tried again.
+  /// True when the picture is in the store or can be loaded; a failed one is tried again.
   bool Preload(const std::string& name, KeyMode key);
   /// True when the store holds the picture with this name below the gfx folder.
   bool Holds(std::string_view name) const;
 
-  /// The slot with exactly this path, 0 when no slot holds it.
+  /// The slot with exactly this path; 0 when no slot holds it.
   int FindPicBuffer(std::string_view path) const;
   void ClearPicBuffers();
 

@@ -11,7 +11,7 @@ namespace {
 
 constexpr Rect kCellPart{0, 0, kCell, kCell};
 
-/// By wall kind; runs show the picture that is named after the other direction.
+/// By wall kind; straight walls show the picture that is named after the other direction.
 constexpr std::array<Standard, 8> kWallPictures = {
     Standard::kBrik,   Standard::kBrikH,  Standard::kBrikV,  Standard::kBrikVL,
     Standard::kBrikVR, Standard::kBrikHT, Standard::kBrikHB, Standard::kBrik};

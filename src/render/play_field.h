@@ -16,7 +16,7 @@ class PlayField {
             const ModelPictures& models, ItemPictures& items);
 
   void DrawBackground();
-  /// The start pictures of snakes that wait; where their heads go is a rule's business.
+  /// The start pictures of waiting snakes; where their heads go is left to the rules.
   void DrawStartMarkers();
 
   /// The items of one kind; `forceFlat` draws the still picture whatever the setting says.
@@ -32,7 +32,7 @@ class PlayField {
   void DrawSnakes(const Table<bool, kMaxSnakes>& shown);
 
  private:
-  /// By direction or turn the picture of a body cell; null where none is drawn.
+  /// The picture of a body cell, by direction or turn; null where none is drawn.
   using BodyPictures = std::array<const Picture*, kDirs>;
 
   void DrawSnakeHead(const SnakeRec& snake);

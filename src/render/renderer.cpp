@@ -9,7 +9,7 @@
 namespace coilrun {
 namespace {
 
-/// The animated kinds beside yellow in loading order, as the debug line names them.
+/// The animated kinds other than yellow in loading order, as the debug line names them.
 struct LevelKind {
   ItemKind kind;
   bool LevelState::*used;

@@ -15,13 +15,14 @@
 
 namespace coilrun {
 
-/// What drawing needs of the machine and of the shell.
+/// What drawing needs from the machine and from the shell.
 struct RendererPorts {
   const Files& files;
   TextFace& textFace;
   MessageBox& messageBox;
   Pump& pump;
-  /// Called when the player will not go on without a picture: cleans up and throws `Terminate`.
+  /// Called when the player does not want to go on without a picture: cleans up, throws
+  /// `Terminate`.
   std::function<void()> giveUp;
   std::string version;  ///< "1.2.24"
 };
@@ -59,7 +60,7 @@ class Renderer {
   bool PreloadUserItem(const std::string& name) { return store_.Preload(name, KeyMode::kBlack); }
   bool HoldsPicture(std::string_view name) const { return store_.Holds(name); }
   void ClearPicBuffers() { store_.ClearPicBuffers(); }
-  /// Shows the intro panel as the feed describes it; nothing while it is hidden.
+  /// Shows the intro panel as the feed describes it; does nothing while it is hidden.
   void ShowProgress() { panel_.Show(); }
 
  private:

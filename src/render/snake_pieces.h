@@ -10,7 +10,7 @@ namespace coilrun {
 
 using SnakePiece = std::optional<ModelPiece>;
 
-/// The pictures of a direction or turn; corners are named by the sides that the body joins.
+/// The pictures of a direction or turn; corners are named after the sides that they join.
 struct DirPieces {
   SnakePiece head;
   SnakePiece body;
@@ -37,7 +37,7 @@ inline constexpr std::array<DirPieces, kDirs> kDirPieces = [] {
                                        {kNothing, kBL, kBL, kTailLB}}};
 }();
 
-/// Which picture shows a head; nothing for a snake that stands still.
+/// Which picture shows a head; none for a snake that stands still.
 constexpr SnakePiece HeadPiece(Dir dir) {
   return kDirPieces[static_cast<std::size_t>(dir)].head;
 }
@@ -50,7 +50,8 @@ constexpr SnakePiece BodyPiece(Dir dir, const ModelPack& model) {
   return model.EdgesInverse ? pieces.ownBody : pieces.body;
 }
 
-/// Which picture shows a tail end. Turns are drawn only when the model has pictures for them.
+/// Which picture shows the end of a tail. Turns are drawn only when the model has pictures for
+/// them.
 constexpr SnakePiece TailPiece(Dir dir, const ModelPack& model) {
   if (IsTurn(dir) && !model.TailEdges) return std::nullopt;
   return kDirPieces[static_cast<std::size_t>(dir)].tail;

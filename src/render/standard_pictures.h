@@ -47,19 +47,19 @@ enum class Standard : std::uint8_t {
 };
 inline constexpr int kStandardPictures = 36;
 
-/// The pictures that are loaded once at the start (and again when the focus comes back).
+/// The pictures that are loaded once at start-up (and again when the focus comes back).
 class StandardPictures {
  public:
   StandardPictures(State& state, const Files& files, PictureLoader& loader);
 
   void LoadAll();
-  /// The level's background, `State::level.BkgPic` below the program folder; without one, none.
+  /// Loads the level's background, `State::level.BkgPic` below the program folder, if it names one.
   void LoadBackground();
 
   const Picture& operator()(Standard which) const {
     return pictures_[static_cast<std::size_t>(which)];
   }
-  /// Width of the pause picture's bitmap file, which centres it; 0 when it could not be read.
+  /// Width of the pause picture's bitmap file, by which it is centred; 0 when it could not be read.
   int PauseFileWidth() const { return pauseFileWidth_; }
 
  private:

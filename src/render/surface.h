@@ -9,8 +9,8 @@
 
 namespace coilrun {
 
-/// One buffer of the size of the screen. Pictures are never clipped: one that does not lie wholly
-/// on the screen, or is unset, or whose source rectangle leaves it, is not drawn at all.
+/// A buffer the size of the screen. Pictures are never clipped: one that is unset, does not lie
+/// wholly on the screen, or does not hold the whole source rectangle is not drawn at all.
 class Surface {
  public:
   Surface();
@@ -30,7 +30,7 @@ class Surface {
       keyed ? CopyPartKeyed(picture, from, x, y) : CopyPart(picture, from, x, y);
     }
   }
-  /// Lays a text over the pixels; what leaves the screen is cut off.
+  /// Lays a text over the pixels; what lies off the screen is cut off.
   void BlendText(const TextMask& mask, int x, int y, Color color);
 
   ScreenPixels Pixels() const { return ScreenPixels{pixels_}; }

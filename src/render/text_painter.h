@@ -9,14 +9,14 @@
 
 namespace coilrun {
 
-/// All texts on the back buffer: bitmap fonts, and system fonts in the style that is set.
+/// Draws all texts on the back buffer: bitmap fonts, and system fonts in the current style.
 class TextPainter {
  public:
   TextPainter(const State& state, Canvas& canvas, TextFace& textFace);
 
   void CutGlyphs(const StandardPictures& sheets) { fonts_.CutGlyphs(sheets); }
 
-  /// Draws a text in bitmap font 1 to 6 (none other draws anything) and returns its width.
+  /// Draws a text in bitmap font 1 to 6 (no other number draws anything) and returns its width.
   int DrawBmpText(std::string_view text, int x, int y, int font, bool measureOnly = false);
   /// Draws it in the middle of the screen's width and returns the x that it used.
   int DrawBmpTextCentred(std::string_view text, int y, int font);
@@ -25,10 +25,10 @@ class TextPainter {
   void SetTextStyle(std::string_view style);
   void SetFont(FontStyle font) { font_ = std::move(font); }
   void SetColor(Color color) { color_ = color; }
-  /// Draws a text in the style that is set, its top left at `x`, `y`.
+  /// Draws a text in the current style with its top left at `x`, `y`.
   void DrawSystemText(std::string_view text, int x, int y);
 
-  /// Names over the snakes' heads, when N was the last key or all are to be shown.
+  /// Draws names over the snakes' heads if N was the last key or all are to be shown.
   void DrawSnakeNames(bool showAll);
 
  private:

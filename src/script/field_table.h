@@ -22,19 +22,19 @@ struct Range {
 
 inline constexpr Range kAny16{Int16::kMin, Int16::kMax};
 inline constexpr Range kOnOffPage{0, 1};
-/// A timer takes no more than an unsigned 16-bit number of milliseconds.
+/// A timer's interval is an unsigned 16-bit number of milliseconds.
 inline constexpr Range kTimerInterval{0, std::numeric_limits<std::uint16_t>::max()};
 
 /// The one place that knows every field of a trace line: its name, its place in the line and where
-/// it lives in the state. A visitor is shown them in order, and has
+/// it lives in the state. A visitor is shown the fields in order, and has
 ///
 ///   Field(name, value)               a field of any type, with its type's own range
-///   Field(name, value, range)        a number of a narrower range
+///   Field(name, value, range)        a number with a narrower range
 ///   TimerFields(timer)               the two fields of a timer
 ///   ReadOnly(name, value)            a field that cannot be set
 ///   Object(name, visitInside)
 ///   Texts(name, table)               an array of texts
-///   List(name, values)               an array that cannot be set, below one that cannot either
+///   List(name, values)               an array inside a read-only one
 ///   Array(name, first, last, visitSlot)         an array of objects, slots `first` to `last`
 ///   ReadOnlyArray(name, first, last, visitSlot)
 ///
@@ -186,7 +186,7 @@ class FieldTable {
     visit_.Field("NewInstall", settings.NewInstall);
   }
 
-  /// Shows the value in force. One that is set is the player's own, and the level's no more.
+  /// Shows the value in force. Setting it sets the player's own value and drops the level's.
   template <typename T>
   void VisitSetting(const char* name, const LevelSetting<T>& setting) const {
     const T inForce = setting;
@@ -355,7 +355,7 @@ class FieldTable {
     });
   }
 
-  /// A bitmap font goes by its number, a system font by its face.
+  /// A bitmap font is named by its number, a system font by its face.
   void VisitFont(const std::string& font) const {
     if (font.size() == 1 && font[0] >= '1' && font[0] <= '0' + kBitmapFonts) {
       visit_.ReadOnly("Font", font[0] - '0');

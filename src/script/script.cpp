@@ -25,17 +25,17 @@ constexpr std::int64_t kTypePeriod = 60 * kMicrosInAMilli;
 constexpr std::size_t kMaxTyped = 10'000;
 constexpr string_view kByteOrderMark = "\xEF\xBB\xBF";
 
-/// What is wrong with a line; nothing when all is well.
+/// What is wrong with a line; nothing if it is fine.
 using Problem = std::optional<std::string>;
 
-/// Blanks before a comment go with it; without one they belong to a text.
+/// Blanks before a comment are removed with it; without a comment they are part of the text.
 string_view WithoutComment(string_view line) {
   if (line.ends_with('\r')) line.remove_suffix(1);
   const std::size_t comment = line.find('#');
   return comment == line.npos ? line : WithoutBlanksBehind(line.substr(0, comment));
 }
 
-/// Takes the first word off `text`, and the one blank that ends it.
+/// Takes the first word off `text`, together with the one blank that ends it.
 string_view TakeWord(string_view& text) {
   const std::size_t end = std::min(text.find_first_of(kBlanks), text.size());
   const string_view word = text.substr(0, end);
@@ -56,8 +56,8 @@ std::optional<std::uint8_t> KeyOf(char character) {
   return static_cast<std::uint8_t>(kUsCharacters.find(character));
 }
 
-/// Reads a script line by line. Steps that `tap` and `type` imply for later are kept apart, to come
-/// after the script's own of the same time.
+/// Reads a script line by line. Later steps that `tap` and `type` imply are kept apart, so that
+/// they come after the script's own steps at the same time.
 class Reader {
  public:
   explicit Reader(string_view file) { script_.file = file; }
@@ -95,7 +95,7 @@ class Reader {
   Problem ReadTime(string_view word) {
     const auto millis = WholeNumberOf(word);
     if (!millis || *millis < 0 || *millis > kMaxMillis) {
-      return Quoted(word) + " is no time in milliseconds";
+      return Quoted(word) + " is not a time in milliseconds";
     }
     if (*millis * kMicrosInAMilli < now_) return "the time is before that of the line above";
     now_ = *millis * kMicrosInAMilli;

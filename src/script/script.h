@@ -26,7 +26,7 @@ struct ScriptStep {
   std::int64_t at = 0;  ///< microseconds since the process started
   Verb verb = Verb::kEnd;
   std::uint8_t code = 0;  ///< scan code of a key step
-  int line = 0;           ///< of the script's text, for messages
+  int line = 0;           ///< in the script's text, for messages
   std::string name;       ///< the file of a shot, the field of a set
   std::string value;      ///< what a field is set to
 };
@@ -37,10 +37,10 @@ struct ScriptAnswer {
   bool yes = false;
 };
 
-/// A script made ready to play: `tap` and `type` are taken apart into key steps.
+/// A script that is ready to play: `tap` and `type` are broken up into key steps.
 struct Script {
-  std::string file;               ///< as messages name it
-  std::vector<ScriptStep> steps;  ///< in the order in which they are done
+  std::string file;               ///< its name in messages
+  std::vector<ScriptStep> steps;  ///< in the order in which they are carried out
   std::vector<ScriptAnswer> answers;
   std::int64_t lastAt = 0;  ///< when the last step or answer is due
 };
@@ -51,7 +51,7 @@ struct ScriptOrError {
   std::string error;
 };
 
-/// Reads a script's text, any bytes; at most 4 MiB and 500,000 steps. `file` is for messages.
+/// Reads a script from any bytes: at most 4 MiB and 500,000 steps. `file` is for messages.
 ScriptOrError ParseScript(std::string_view text, std::string_view file);
 /// Reads a script file, or standard input when `file` is "-".
 ScriptOrError LoadScript(const std::string& file);

@@ -16,7 +16,7 @@
 
 namespace coilrun {
 
-/// What a script is played on. All of it outlives the player.
+/// What a script is played on. All of it must outlive the player.
 struct ScriptStage {
   State& state;
   const Clock& clock;
@@ -26,10 +26,10 @@ struct ScriptStage {
   std::ostream& messages;  ///< message boxes and errors (standard error)
 };
 
-/// The hands of a headless run: keys, window events, answers, and all else that a script asks for.
-/// An empty script plays too. `Gather` leaves the program with `Terminate`: with 0 at `end`; with 2
+/// Plays a headless run: keys, window events, answers, and everything else that a script asks for.
+/// The script may be empty. `Gather` leaves the program with `Terminate`: with 0 at `end`; with 2
 /// and one line of explanation when a step fails, ten virtual minutes after the last command, and
-/// after a million calls without time moving.
+/// after a million calls during which time has not moved.
 class ScriptPlayer final : public KeySource, public MessageBox {
  public:
   ScriptPlayer(Script script, const ScriptStage& stage);
@@ -38,11 +38,11 @@ class ScriptPlayer final : public KeySource, public MessageBox {
   void Serve() override {}
   void ReadKeys(KeySnapshot& keys) override;
 
-  /// Prints the box and takes the oldest answer that is due; without one it is No, or OK.
+  /// Prints the box and takes the oldest answer that is due; if there is none, it is No or OK.
   BoxAnswer Show(const std::string& title, const std::string& text, BoxButtons buttons) override;
 
  private:
-  /// Changes of a key alternate, so their number is the whole queue.
+  /// The changes of a key alternate, so their number says all about its queue.
   struct Key {
     bool held = false;  ///< after all changes
     int unseen = 0;     ///< changes that no poll has seen yet

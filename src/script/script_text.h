@@ -14,7 +14,7 @@ std::string_view WithoutBlanksInFront(std::string_view text);
 std::string_view WithoutBlanksBehind(std::string_view text);
 std::string_view WithoutBlanksAround(std::string_view text);
 
-/// The number that the whole text is, or nothing.
+/// The number that the whole text forms, or nothing.
 template <typename Number>
 std::optional<Number> NumberOf(std::string_view text) {
   Number number{};
@@ -24,8 +24,8 @@ std::optional<Number> NumberOf(std::string_view text) {
   return number;
 }
 
-/// A piece of a script as a message shows it: in quotes, cut when it is long, no control
-/// characters.
+/// A piece of a script as a message shows it: in quotes, cut short if it is long, and without
+/// control characters.
 std::string Quoted(std::string_view text);
 
 }  // namespace coilrun

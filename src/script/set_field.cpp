@@ -15,11 +15,11 @@ namespace {
 
 using Problem = std::optional<std::string>;
 
-/// Whole numbers: `int` and the ones that saturate.
+/// Whole numbers: `int` and the saturating ones.
 template <typename Target>
 Problem AssignWhole(Target& target, std::string_view value, Range range) {
   const auto number = NumberOf<std::int64_t>(WithoutBlanksAround(value));
-  if (!number) return Quoted(value) + " is no whole number";
+  if (!number) return Quoted(value) + " is not a whole number";
   if (*number < range.lowest || *number > range.highest) {
     return Quoted(value) + " is not within " + std::to_string(range.lowest) + " to " +
            std::to_string(range.highest);
@@ -58,7 +58,7 @@ Problem Assign(std::string& target, std::string_view value) {
 
 Problem Assign(RivalList& target, std::string_view value) {
   auto rivals = RivalsFromText(WithoutBlanksAround(value));
-  if (!rivals) return Quoted(value) + " is no list of rivals";
+  if (!rivals) return Quoted(value) + " is not a list of rivals";
   target = *std::move(rivals);
   return std::nullopt;
 }
@@ -72,7 +72,7 @@ Problem Assign(Written<T>& target, std::string_view value) {
 template <typename Enum>
 requires std::is_enum_v<Enum> Problem Assign(Enum& target, std::string_view value) {
   const auto word = FromWord<Enum>(WithoutBlanksAround(value));
-  if (!word) return Quoted(value) + " is no word of this field";
+  if (!word) return Quoted(value) + " is not a word for this field";
   target = *word;
   return std::nullopt;
 }
@@ -114,7 +114,7 @@ class FieldSetter {
     const std::string_view number = rest_.substr(0, rest_.find('.'));
     const auto slot = NumberOf<int>(number);
     if (!slot || *slot < first || *slot > last) {
-      return Finish(Quoted(number) + " is no live slot of " + std::string(name));
+      return Finish(Quoted(number) + " is not a live slot of " + std::string(name));
     }
     if (Enter(number)) visitSlot(*slot);
     EndOfBranch();
@@ -130,7 +130,7 @@ class FieldSetter {
     if (!Enter(name)) return;
     const auto slot = NumberOf<int>(rest_);
     if (!slot || !table.Holds(*slot)) {
-      return Finish(Quoted(rest_) + " is no line of " + std::string(name));
+      return Finish(Quoted(rest_) + " is not a line of " + std::string(name));
     }
     Finish(Assign(table(*slot), value_));
   }
@@ -155,7 +155,7 @@ class FieldSetter {
     return true;
   }
 
-  /// The name led here and no further: it names nothing, elsewhere neither.
+  /// The name led here and no further, so it names no field anywhere.
   void EndOfBranch() {
     if (!found_) Finish("no such field");
   }

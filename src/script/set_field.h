@@ -8,9 +8,9 @@
 
 namespace coilrun {
 
-/// Writes the field that a trace line shows under this name ("Snakes.1.Seg.3.X"); live slots only.
-/// Texts are UTF-8. Returns what is wrong when there is no such field or the value does not fit it;
-/// the state is then as it was.
+/// Writes the field that a trace line shows under this name ("Snakes.1.Seg.3.X"), in live slots
+/// only. Texts are UTF-8. Returns what is wrong when there is no such field or the value does not
+/// fit it; the state then stays as it was.
 std::optional<std::string> SetField(State& state, std::string_view name, std::string_view value);
 
 }  // namespace coilrun

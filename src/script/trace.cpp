@@ -13,8 +13,8 @@
 namespace coilrun {
 namespace {
 
-/// Appends JSON to a text as the field table goes by; much faster than a tree of values, for the
-/// lines are long and many.
+/// Appends JSON to a text as the field table is visited; much faster than building a tree of
+/// values, which matters because the lines are long and many.
 class JsonLine {
  public:
   explicit JsonLine(std::string& json) : json_(json) {}

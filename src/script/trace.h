@@ -7,7 +7,7 @@
 
 namespace coilrun {
 
-/// What a trace line tells that is not in the state.
+/// What a trace line reports that is not in the state.
 struct TraceMoment {
   std::int64_t now = 0;      ///< microseconds since the process started
   double musicPosition = 0;  ///< seconds into the music file

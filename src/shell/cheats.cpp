@@ -22,7 +22,7 @@ void Toggle(State& state, bool& flag, std::string_view what) {
   Reply(state, std::string{what} + " mode " + OnOffText(flag));
 }
 
-/// A level that cannot be loaded leaves the loader's own line in the status.
+/// If the level cannot be loaded, the loader's own line stays in the status.
 void Warp(Shell& shell, const std::string& digits) {
   const std::string number = NumberText(LeadingNumber(digits));
   shell.game.host.LoadLevel(InProgramFolder("\\lvl\\lvl", number + ".dat"));

@@ -12,8 +12,7 @@
 namespace coilrun {
 
 /// Cuts a command line into switches: each runs from its "/" to the blank before the next one. Text
-/// before the first
-/// "/" is a switch of its own, which nothing matches.
+/// before the first "/" is a switch of its own, which nothing matches.
 std::vector<std::string> SplitSwitches(std::string_view commandLine);
 
 /// Carries out the switches of the command line.

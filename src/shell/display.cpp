@@ -7,7 +7,7 @@
 namespace coilrun {
 namespace {
 
-/// Files that the loading of pictures and of sounds expects, for the progress bar.
+/// How many files the loading of pictures and of sounds expects, for the progress bar.
 constexpr int kExpectedPictures = 323;
 constexpr int kExpectedSounds = 5;
 

@@ -6,14 +6,14 @@
 
 namespace coilrun {
 
-/// Loads the standard pictures and the model packs; unpacks them first while the program starts.
+/// Loads the standard pictures and the model packs; while the program starts, unpacks them first.
 void DD_CreateGraphicsFromFile(Shell& shell);
 /// Unpacks and loads the standard effects.
 void SnCreateSounds(Shell& shell);
 
-/// The application lost the focus: gives the screen back and pauses a game that is being played.
+/// The application lost the focus: gives up the screen and pauses a game that is being played.
 void LoseFocus(Shell& shell);
-/// The application has the focus again: takes the screen back and loads every picture anew.
+/// The application has the focus again: takes the screen back and reloads every picture.
 void RegainFocus(Shell& shell);
 
 }  // namespace coilrun

@@ -21,7 +21,7 @@ struct HostOptions {
   std::uint64_t seed = 0;
   bool help = false;
   bool version = false;
-  std::string commandLine;  ///< everything else, joined by blanks
+  std::string commandLine;  ///< all other arguments, joined by blanks
 };
 
 /// The options, or one line that says what is wrong with them.

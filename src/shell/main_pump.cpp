@@ -3,7 +3,7 @@
 namespace coilrun {
 namespace {
 
-/// Sets a flag for as long as it lives.
+/// Keeps a flag set for as long as this object lives.
 class Raised {
  public:
   explicit Raised(bool& flag) : flag_(flag) { flag = true; }

@@ -14,7 +14,7 @@ constexpr std::string_view kMore = "More";
 constexpr std::string_view kKeys = "Keys";
 constexpr std::array kDirections = {Dir::kForw, Dir::kBack, Dir::kLeft, Dir::kRight};
 
-/// Whole numbers are kept within these.
+/// Whole numbers outside these are not used.
 struct Bounds {
   int lowest;
   int highest;

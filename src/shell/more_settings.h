@@ -6,13 +6,13 @@
 namespace coilrun {
 
 /// Reads the sections [More] and [Keys]. A value that cannot be used counts as the built-in one. A
-/// classic run keeps all at their built-in values.
+/// classic run keeps all built-in values.
 void LoadMoreSettings(State& state, const SettingsStore& store);
-/// Stores what differs from `before`, so that only the player's own changes go into his store.
+/// Stores what differs from `before`, so that only the player's own changes are stored.
 void SaveMoreSettings(const State& state, const MoreState& before,
                       const Table<SteeringKeys, kMaxPeople>& keysBefore, SettingsStore& store);
 
-/// What the shipped settings say of a person's keys, whatever the player has stored.
+/// A person's keys in the shipped settings, whatever the player has stored.
 SteeringKeys ShippedKeys(int person, const SettingsStore& store);
 
 }  // namespace coilrun

@@ -6,8 +6,8 @@
 namespace coilrun {
 namespace {
 
-/// Characters of the scan codes 0 to 57 in Windows-1252; a blank is a key without a character (the
-/// space bar is apart).
+/// Characters of the scan codes 0 to 57 in Windows-1252; a blank stands for a key without a
+/// character (the space bar is handled elsewhere).
 using KeyRow = std::string_view;
 
 constexpr KeyRow kUsShift = "  !@#$%^&*()_+            {}           :\"  |       <>?    ";

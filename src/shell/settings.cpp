@@ -24,7 +24,7 @@ class Reader {
   void Number(std::string_view key, double& value, double fallback) const {
     value = NumberOr(key, fallback);
   }
-  /// A step period or a range of them: one that no snake can have counts as missing.
+  /// A step period or a range of periods; one that no snake can have counts as missing.
   double Speed(std::string_view key, double fallback) const {
     const double speed = NumberOr(key, fallback);
     return speed >= 1 ? speed : fallback;
@@ -100,7 +100,7 @@ void LoadOptions(State& state, const SettingsStore& store) {
   options.IntegerWithin("Player Color", state.Snakes(kPlayer).Model, kDefaultModel, 0, Int16::kMax);
 }
 
-/// Calls `take` with section, key and text of every value that is saved, in order.
+/// Calls `take` with section, key and text of every saved value, in order.
 template <typename Take>
 void EachHiScore(const State& state, Take take) {
   for (int place = 1; place <= kHiScores; ++place) {

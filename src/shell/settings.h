@@ -7,9 +7,9 @@
 
 namespace coilrun {
 
-/// Reads every setting and the high-score table from the store. A missing value takes its default,
-/// one that cannot be converted leaves what it should fill as it is. In the multiplayer modes the
-/// speed tweaks are fixed.
+/// Reads every setting and the high-score table from the store. A missing value takes its default;
+/// one that cannot be converted leaves its field as it is. In the multiplayer modes the speed
+/// settings are fixed.
 void LoadSettings(State& state, SettingsStore& store);
 void LoadHiScores(State& state, SettingsStore& store);
 /// Writes them all back and saves the store; false when it cannot be written.

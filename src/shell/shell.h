@@ -11,7 +11,7 @@
 
 namespace coilrun {
 
-/// Everything that the shell works with, handed to its routines. Made once by `Program`.
+/// Everything that the shell works with, passed to its routines. Made once by `Program`.
 struct Shell {
   State& state;
   Ports& ports;

@@ -19,7 +19,7 @@ constexpr std::string_view kCredits =
     "Fonts; Comic Neue; "
     "League Spartan; Debian /\\  ";
 
-/// Error numbers of the level-folder failure: the folder is there but empty, or it is missing.
+/// Error numbers for the level folder: it is there but empty, or it is missing.
 constexpr int kFolderEmpty = 0;
 constexpr int kFolderMissing = 76;
 
@@ -41,7 +41,7 @@ void RunSwitches(Shell& shell, const std::string& commandLine) {
   for (const std::string& arg : SplitSwitches(commandLine)) switches.SetCommand(arg);
 }
 
-/// A named level starts at once, with its level-start screen; otherwise the main menu shows.
+/// A level given by name starts at once, with its level-start screen; otherwise the menus open.
 void ChooseFirstScreen(State& state) {
   const bool named = state.mode.LevelSwitchGiven;
   state.shell.NoGameRunning = !named;

@@ -248,7 +248,7 @@ TEST(RarReader, RefusesInTheOldGenerationToo) {
       {"packed", kSize, 23, 4, "its contents are damaged"},
       {"packed", kSize, 3000, 4, "its contents are damaged"},
       {"packed", kFlags, 0x8010, 2,
-       "compressed together with earlier entries, which is not read in this generation"},
+       "compressed together with earlier entries, which cannot be read in this generation"},
       {"packed", kFlags, 0x8001, 2, "continues in another volume"},
       {"packed", kVersion, 20, 1, "compressed by the old version 2.0 of the format"},
       {"packed", kMethod, 0x36, 1, "compressed in an unknown way"},

@@ -76,7 +76,7 @@ TEST(ScriptPlayer, EndLeavesBeforeLaterCommands) {
 TEST(ScriptPlayer, FailuresNameTheLineAndLeaveWithTwo) {
   const std::pair<const char*, const char*> cases[] = {
       {"1 shot there.png", "test.txt:1: there.png cannot be written\n"},
-      {"\n1 set Snakes.1.TNT two", "test.txt:2: Snakes.1.TNT: \"two\" is no whole number\n"},
+      {"\n1 set Snakes.1.TNT two", "test.txt:2: Snakes.1.TNT: \"two\" is not a whole number\n"},
       {"1 state", "test.txt:1: the trace cannot be written\n"},
   };
   for (const auto& [script, message] : cases) {

@@ -70,11 +70,11 @@ TEST(ParseScript, LastsUntilTheLastKeyOrAnswer) {
 TEST(ParseScript, SaysWhereAndWhatIsWrong) {
   const std::pair<std::string, std::vector<std::string>> cases[] = {
       {"2: the time is before", {"5 state\n4 state\n"}},
-      {"3: \"state\" is no time", {"\n\nstate\n"}},
-      {"1: \"-1\" is no time", {"-1 state"}},
-      {"1: \"1.5\" is no time", {"1.5 state"}},
-      {"1: \"99999999999999999999\" is no time", {"99999999999999999999 end"}},
-      {"1: \"1000000000001\" is no time", {"1000000000001 end"}},
+      {"3: \"state\" is not a time", {"\n\nstate\n"}},
+      {"1: \"-1\" is not a time", {"-1 state"}},
+      {"1: \"1.5\" is not a time", {"1.5 state"}},
+      {"1: \"99999999999999999999\" is not a time", {"99999999999999999999 end"}},
+      {"1: \"1000000000001\" is not a time", {"1000000000001 end"}},
       {"1: there is no command \"\"", {"1"}},
       {"1: there is no command \"STATE\"", {"1 STATE"}},
       {"1: there is no command \"jump?[2J\"", {"1 jump\x1b[2J"}},

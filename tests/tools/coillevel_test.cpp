@@ -116,7 +116,7 @@ TEST(Coillevel, CheckNamesWhatAwaitsTheSnakes) {
        "x.dat:24: the player's start lies outside the field\n"},
       {{{15, 12, 'S'}, {5, 5, '1'}, {5, 9, '1'}},
        "",
-       "x.dat:9: the start \"1\" again: that of line 5"},
+       "x.dat:9: the start \"1\" again: the one in line 5"},
       {{{15, 12, 'S'}, {5, 5, '1'}},
        "",
        "x.dat:5: the start \"1\" is not the start that is read last: only 1 "},
@@ -166,7 +166,7 @@ TEST(Coillevel, CheckKnowsWhatIsNoLevel) {
       {"", "x.dat:1: the file is empty\n"},
       {"Dear diary, nothing to say\n", "x.dat:1: nothing here makes a level\n"},
       {"BM\n" + std::string(5000, '\1') + "\nset:\n",
-       "x.dat:2: these bytes are no text: this is no level\n"},
+       "x.dat:2: these bytes are not text, so this is not a level\n"},
   };
   for (const auto& [text, output] : cases) {
     shop.Put("x.dat", text);

@@ -217,7 +217,7 @@ TEST_F(CoilpackTest, NamesWhatAModelPackLacks) {
       {"printf 'EDGES=0' > grass/model.ini; cp ../other.png grass/start.PNG", "grass.smp",
        "grass/start.bmp has 16 x 20 pixels instead of 20 x 20\n"},
       {"rm grass/start.PNG; echo text > grass/start.bmp", "grass.smp",
-       "grass/start.bmp is no bitmap that the game reads\n"},
+       "grass/start.bmp is not a bitmap that the game reads\n"},
       {"true", "grass.rar", "the game looks for packs whose names end in \".smp\"\n"},
       {"true", "lawn.smp", "holds no folder \"lawn\"\n"},
   };

@@ -13,7 +13,7 @@
 namespace coilrun {
 namespace {
 
-/// Room that a start needs in some direction.
+/// How many free cells in a row a start needs in some direction.
 constexpr int kFreeCells = 3;
 
 constexpr std::array<std::string_view, kItemKinds> kNames = {"bananas",       "chilies", "crystals",
@@ -30,15 +30,15 @@ struct Way {
 constexpr std::array<Way, 4> kWays = {
     {{Dir::kForw, "above"}, {Dir::kBack, "below"}, {Dir::kLeft, "left"}, {Dir::kRight, "right"}}};
 
-/// The level without its items, as placement sees it before it starts.
+/// The level without its items, as placement first sees it.
 std::unique_ptr<State> WithoutItems(const State& level) {
   auto bare = std::make_unique<State>(level);
   for (ItemList& items : bare->itemLists) items.count = 0;
   return bare;
 }
 
-/// True when an item may come to lie beside the spawn points: in play every placement can find
-/// them all taken; eaten items that stay hidden are not placed again.
+/// True when items may end up away from the spawn points: during play, any placement can find them
+/// all taken. (Eaten items that stay hidden are not placed again.)
 bool UsesFreeSpots(const State& level) {
   int items = 0;
   for (const ItemList& list : level.itemLists) items += list.Live();
@@ -96,7 +96,7 @@ class FieldCheck {
     }
   }
 
-  /// A start needs room on all sides, and one way to leave by that is long enough to turn in.
+  /// A start needs room on all sides, and one way out that is long enough to turn in.
   void CheckRoom(Point place, const StartLine& start) {
     std::string blocked;
     std::string ways;
@@ -114,7 +114,7 @@ class FieldCheck {
     }
   }
 
-  /// True when an item of the kind can lie where a head from one of these places eats it.
+  /// True when an item of this kind can lie where a head at one of these places eats it.
   bool CanTake(ItemKind kind, const PixelMarks& places) const {
     if (!Holds(kind)) return false;
     const auto inReach = [&](Point item) { return places.AnyTouches(EatingReach(kind), item); };
@@ -122,7 +122,7 @@ class FieldCheck {
            std::any_of(spots_.begin(), spots_.end(), inReach);
   }
 
-  /// Where a snake can come with all that it can take on its way.
+  /// Where a snake can go with all that it can pick up on its way.
   PixelMarks PlacesOf(int snake) const {
     PixelMarks places = ground_.PlacesFrom(StartOf(snake));
     if (CanTake(ItemKind::kTnt, places)) places = ground_.PlacesFrom(StartOf(snake), Force::kTnt);
@@ -162,7 +162,7 @@ class FieldCheck {
     }
   }
 
-  /// The first kind of the level that cannot be taken from these places when it lies there.
+  /// The first of the level's kinds that, lying at `item`, cannot be eaten from these places.
   std::optional<ItemKind> OutOfReach(Point item, const PixelMarks& places) const {
     for (int number = 0; number < kItemKinds; ++number) {
       const auto kind = static_cast<ItemKind>(number);

@@ -10,19 +10,19 @@
 
 namespace coilrun {
 
-/// Where a snake's start stands in the file.
+/// Where the file gives a snake's start.
 struct StartLine {
   int line = 0;
   std::string name;  ///< in words
 };
 
-/// What the lines of a level file say, for findings to point at.
+/// What the lines of a level file say, so that findings can point to them.
 struct LevelLines {
-  std::map<int, StartLine> starts;  ///< by number of the snake
-  std::map<LevelKey, int> keys;     ///< where a key was read last
+  std::map<int, StartLine> starts;  ///< by the number of the snake
+  std::map<LevelKey, int> keys;     ///< the line where a key was last read
 };
 
-/// What awaits the snakes of a loaded level: starts that leave no room, items that nobody can reach
+/// What is wrong with the field of a loaded level: starts without room, items that nobody can reach
 /// alive, requirements that cannot be met.
 std::vector<Finding> CheckField(const State& level, const LevelLines& lines);
 

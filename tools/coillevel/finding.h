@@ -4,7 +4,7 @@
 
 namespace coilrun {
 
-/// Something in a level file that its author should look at.
+/// Something in a level file that its author should know.
 struct Finding {
   int line = 0;
   std::string text;

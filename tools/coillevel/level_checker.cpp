@@ -13,7 +13,7 @@
 namespace coilrun {
 namespace {
 
-/// Fills a column of the map without placing anything.
+/// This word fills a column of the map without placing anything.
 constexpr std::string_view kFiller = "_";
 constexpr int kColumns = 32;
 constexpr std::array<std::string_view, 4> kTypes = {"wall", "wall_no_tnt", "ani_wall",
@@ -27,7 +27,7 @@ bool IsItemCount(LevelKey key) {
   return key <= LevelKey::kNumPower;
 }
 
-/// The first line that holds a character that no text has.
+/// The first line that holds a character that never occurs in text.
 std::optional<int> FirstLineOfBytes(std::string_view text) {
   int line = 1;
   for (const char character : text) {
@@ -49,7 +49,7 @@ std::vector<Finding> LevelChecker::Check(std::string_view text) {
   const auto level = LoadQuietly(text, pictures_);
   if (text.empty()) return {{1, "the file is empty"}};
   if (const auto line = FirstLineOfBytes(text)) {
-    return {{*line, "these bytes are no text: this is no level", level == nullptr}};
+    return {{*line, "these bytes are not text, so this is not a level", level == nullptr}};
   }
   CheckLines(text);
   if (cells_ == 0 && lines_.keys.empty()) return {{1, "nothing here makes a level"}};
@@ -118,13 +118,13 @@ void LevelChecker::NoteStart(int snake, std::string_view word) {
   highestStart_ = std::max(highestStart_, snake);
   StartLine& start = lines_.starts[snake];
   if (start.line != 0) {
-    Warn("the start " + Quoted(word) + " again: that of line " + std::to_string(start.line) +
+    Warn("the start " + Quoted(word) + " again: the one in line " + std::to_string(start.line) +
          " has no effect");
   }
   start = {line_, "the start " + Quoted(word)};
 }
 
-/// The cell behind the last blank that the game examines is never closed.
+/// The cell after the last blank that the game examines is never closed.
 void LevelChecker::CheckOpenEnd(std::string_view line) {
   if (line.empty()) return;
   const std::string_view examined = line.substr(0, line.size() - 1);
@@ -236,7 +236,7 @@ void LevelChecker::CheckName(const KeyDef& def, std::string_view text) {
 
 void LevelChecker::CheckUserItem(const KeyDef& def, const LevelValue& value) {
   if (value.letter == 0) {
-    Warn("ignored: it wants a lower-case letter, one character and a text");
+    Warn("ignored: it needs a lower-case letter, one character and a text");
     return;
   }
   const auto found = letters_.find(value.letter);
@@ -246,7 +246,7 @@ void LevelChecker::CheckUserItem(const KeyDef& def, const LevelValue& value) {
   }
   Letter& letter = found->second;
   if (def.key == LevelKey::kSet) {
-    // Behind an archive of the level there may be any picture.
+    // An archive of the level may bring any picture.
     letter.hasPicture = archives_ > 0 || pictures_.Has(std::string{value.text});
     if (!letter.hasPicture) Warn("ignored: there is no picture " + Quoted(value.text));
     return;
@@ -254,7 +254,7 @@ void LevelChecker::CheckUserItem(const KeyDef& def, const LevelValue& value) {
   if (letter.hasPicture) Warn("ignored: \"let:\" must come before \"set:\" of the same letter");
   letter.hasType = !letter.hasPicture;
   if (std::find(kTypes.begin(), kTypes.end(), value.text) == kTypes.end()) {
-    Warn(Quoted(value.text) + " is no type of user item");
+    Warn(Quoted(value.text) + " is not a type of user item");
   }
 }
 
@@ -286,7 +286,7 @@ void LevelChecker::CheckLetters() {
   }
 }
 
-/// As many snakes can take part as the start that is read last says.
+/// The start that is read last says how many snakes can take part.
 void LevelChecker::CheckStarts() {
   lines_.starts.try_emplace(1, StartLine{1, "the player's start"});
   const StartLine highest = lines_.starts.rbegin()->second;

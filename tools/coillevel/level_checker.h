@@ -13,8 +13,8 @@
 
 namespace coilrun {
 
-/// Reads a level as the game does and finds what the game refuses, ignores or reads otherwise than
-/// it looks, and what makes a level that it loads unfair or unsightly.
+/// Reads a level as the game does and finds what the game refuses, ignores or reads differently
+/// from how it looks, and what makes a level unfair or unsightly although it loads.
 class LevelChecker {
  public:
   explicit LevelChecker(const Pictures& pictures) : pictures_(pictures) {}
@@ -26,7 +26,7 @@ class LevelChecker {
   void CheckLines(std::string_view text);
   void CheckRow(std::string_view line, bool isKeyLine);
   void CheckCell(int column, std::string_view word, bool isKeyLine);
-  /// A line below the map that looks like a row of it.
+  /// Finds a line below the map that looks like a row of it.
   void CheckRowBelow(std::string_view line);
   void CheckOpenEnd(std::string_view line);
   void NoteStart(int snake, std::string_view word);
@@ -58,7 +58,7 @@ class LevelChecker {
   WallGaps walls_;
   int line_ = 0;
   int archives_ = 0;
-  int cells_ = 0;  ///< of the map, fillers too
+  int cells_ = 0;  ///< of the map, fillers included
   int highestStart_ = 0;
   int lastStart_ = 0;
   double aiSnakes_ = 0;

@@ -43,12 +43,12 @@ class TemporaryFolder {
   std::filesystem::path path_;
 };
 
-/// Everything is written into the temporary folder.
+/// Makes everything go into the temporary folder.
 bool NeverWritable(const std::filesystem::path& /*folder*/) {
   return false;
 }
 
-/// Loads pictures as the game does.
+/// Loads pictures the way the game does.
 class DrawingHost final : public QuietHost {
  public:
   DrawingHost(State& state, Renderer& renderer) : QuietHost(state), renderer_(renderer) {}

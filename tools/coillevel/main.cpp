@@ -51,7 +51,7 @@ int Dump(const std::string& file) {
   if (!text) return kFaulty;
   const auto dump = DumpLevel(*text, Pictures(file));
   if (!dump) {
-    std::cerr << "coillevel: the game would not load " << file << "; \"check\" tells why\n";
+    std::cerr << "coillevel: the game would not load " << file << "; \"check\" says why\n";
     return kFaulty;
   }
   std::cout << *dump << '\n';

@@ -15,7 +15,7 @@ std::string NormalName(std::string name) {
   return FoldCase(name);
 }
 
-/// The name and every folder in front of it.
+/// Adds the name and every folder in front of it.
 void AddWithFolders(std::set<std::string>& names, const std::string& name) {
   for (std::size_t end = name.find('\\'); end != name.npos; end = name.find('\\', end + 1)) {
     names.insert(name.substr(0, end));
@@ -37,7 +37,7 @@ Pictures::Pictures(const std::filesystem::path& levelFile) {
        !ignored && entry != std::filesystem::recursive_directory_iterator();
        entry.increment(ignored)) {
     std::filesystem::path name = entry->path().lexically_relative(loose);
-    // The sources of the game hold PNG files, which the build turns into the bitmaps it wants.
+    // The game's sources hold PNG files, which the build turns into bitmaps.
     if (name.extension() == ".png") name.replace_extension(".bmp");
     AddWithFolders(names_, NormalName(name.string()));
     known_ = true;

@@ -6,15 +6,15 @@
 
 namespace coilrun {
 
-/// The program folder that a level's file lies in: FOLDER of FOLDER/lvl/FILE.
+/// The program folder that a level file lies in: FOLDER in FOLDER/lvl/FILE.
 std::filesystem::path ProgramFolderOf(const std::filesystem::path& levelFile);
 
-/// The pictures that a level may name: those of its program folder, loose or packed in gfx.snr.
+/// The pictures that a level may name: those in its program folder, loose or packed in gfx.snr.
 class Pictures {
  public:
   explicit Pictures(const std::filesystem::path& levelFile);
 
-  /// False when the level lies in no program folder; any picture may exist then.
+  /// False when the level does not lie in a program folder; any picture may exist then.
   bool Known() const { return known_; }
   /// True when a picture or a folder of pictures may exist below the gfx folder.
   bool Has(const std::string& name) const;

@@ -14,7 +14,7 @@ class OneLevel final : public Files {
   OneLevel(std::string_view level, const Pictures& pictures)
       : level_(level.begin(), level.end()), pictures_(pictures) {}
 
-  /// From now on there may be any picture.
+  /// From now on, any picture may exist.
   void AddUnknownPictures() { unknownPictures_ = true; }
 
   bool Exists(const std::string& path) const override {
@@ -46,7 +46,7 @@ class OneLevel final : public Files {
   bool unknownPictures_ = false;
 };
 
-/// The archives of the level, which are not looked into.
+/// The level's archives, which are never opened.
 class ClosedArchives final : public Archive {
  public:
   explicit ClosedArchives(OneLevel& files) : files_(files) {}

@@ -9,7 +9,7 @@
 namespace coilrun {
 
 /// What the game's loader makes of a level, without any pictures or files; nothing when it refuses
-/// the level. A picture that lies in an archive of the level's own is taken to be there.
+/// the level. The level's own archives are assumed to hold the pictures that it names.
 std::unique_ptr<State> LoadQuietly(std::string_view text, const Pictures& pictures);
 
 }  // namespace coilrun

@@ -19,7 +19,7 @@ class NoPump final : public Pump {
   void Sleep(int /*milliseconds*/) override {}
 };
 
-/// Says yes: goes on without what is missing.
+/// Answers yes: go on without what is missing.
 class NoBox final : public MessageBox {
  public:
   BoxAnswer Show(const std::string& /*title*/, const std::string& /*text*/,
@@ -40,7 +40,7 @@ class NoText final : public TextFace {
   TextMask empty_;
 };
 
-/// Default settings; loads no picture, as if every one that exists could be loaded.
+/// Keeps default settings and loads no pictures, as if every one that exists could be loaded.
 class QuietHost : public LoaderHost {
  public:
   explicit QuietHost(State& state) : state_(state) {}

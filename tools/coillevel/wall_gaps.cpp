@@ -13,7 +13,7 @@ constexpr std::uint8_t kRight = 2;
 constexpr std::uint8_t kTop = 4;
 constexpr std::uint8_t kBottom = 8;
 
-/// The sides that a wall's picture reaches.
+/// The sides of the cell that a wall's picture reaches.
 constexpr std::uint8_t SidesOf(WallKind kind) {
   switch (kind) {
     case WallKind::kH:

@@ -9,7 +9,7 @@
 
 namespace coilrun {
 
-/// The walls of a map, looked at as pictures that should join.
+/// The walls of a map, seen as pictures that should join.
 class WallGaps {
  public:
   void Put(int column, int row, WallKind kind, char code) { walls_[{row, column}] = {kind, code}; }

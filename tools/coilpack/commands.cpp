@@ -23,7 +23,7 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-/// Names may hold anything; a terminal should not be told so.
+/// Names may hold control characters, which must not reach a terminal.
 std::string Printable(std::string text) {
   std::replace_if(
       text.begin(), text.end(),
@@ -88,7 +88,7 @@ bool WriteWholeFile(const std::filesystem::path& file, const Bytes& contents) {
   return target.Ok() && target.Write(file.filename().string(), contents, std::nullopt).empty();
 }
 
-/// The folder, its pictures in the game's form when the archive is one of the game.
+/// Reads the folder; if the archive is for the game, turns the pictures into the game's format.
 SourceFolder ReadForArchive(const PackOptions& options) {
   SourceFolder folder = ReadSourceFolder(options.folder, options.archive);
   if (!folder.problem.empty() || !IsGameArchive(options.archive)) return folder;

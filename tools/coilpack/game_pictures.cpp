@@ -14,7 +14,7 @@ bool IsModelPack(std::string_view archive) {
   return FoldCase(archive).ends_with(".smp");
 }
 
-/// FOLDER of a picture that is called FOLDER/N.bmp, N being the number of a frame; else "".
+/// FOLDER for a picture named FOLDER/N.bmp, where N is the number of a frame; "" for others.
 std::string FolderOfFrames(const std::string& name) {
   const std::size_t slash = name.rfind('/');
   if (slash == name.npos) return "";
@@ -62,8 +62,8 @@ class Conversion {
   void WarnOfFrames(const std::string& folder) {
     if (folder.empty() || !warned_.insert(folder).second) return;
     result_.warnings.push_back(folder +
-                               ": transparent pixels of frames become black when the window has "
-                               "been away; paint a ground behind them");
+                               ": transparent pixels of frames turn black once the window has "
+                               "lost the focus; paint a background behind them");
   }
 
   bool keysByFolder_;

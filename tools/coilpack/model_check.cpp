@@ -14,7 +14,7 @@
 namespace coilrun {
 namespace {
 
-/// The files of a pack by their names as the game looks for them.
+/// The files of a pack, found by name the way the game does.
 class PackFiles {
  public:
   explicit PackFiles(RarReader& reader) : reader_(reader) {
@@ -66,10 +66,10 @@ std::string PictureFault(PackFiles& files, const std::string& name) {
   if (!file) {
     const std::string png = name.substr(0, name.size() - 3) + "png";
     if (!files.Has(png)) return "is missing";
-    return "is missing; the game reads no PNG: \"coilpack create\" makes a BMP of it";
+    return "is missing; the game reads no PNG, but \"coilpack create\" turns it into a BMP";
   }
   const auto bitmap = DecodeBmp(*file);
-  if (!bitmap) return "is no bitmap that the game reads";
+  if (!bitmap) return "is not a bitmap that the game reads";
   if (bitmap->width == kModelSide && bitmap->height == kModelSide) return "";
   return "has " + SizeText(bitmap->width, bitmap->height) + " pixels instead of " +
          SizeText(kModelSide, kModelSide);

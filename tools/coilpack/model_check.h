@@ -7,8 +7,8 @@
 
 namespace coilrun {
 
-/// What keeps a model pack from showing a whole snake, one line a fault: pictures that are missing,
-/// are no bitmaps or have the wrong size. `archive` is the name of the pack's file.
+/// What keeps a model pack from showing a whole snake, one line per fault: pictures that are
+/// missing, are not bitmaps or have the wrong size. `archive` is the name of the pack's file.
 std::vector<std::string> ModelFaults(const std::string& archive, RarReader& reader);
 
 }  // namespace coilrun

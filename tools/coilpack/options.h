@@ -15,7 +15,7 @@ struct PackOptions {
   std::string folder;
   std::string password;
   bool json = false;
-  bool model = false;  ///< look for all that a model pack needs
+  bool model = false;  ///< check for everything that a model pack needs
 };
 
 inline constexpr std::string_view kPackUsage =

@@ -31,7 +31,7 @@ std::string KindProblem(const fs::directory_entry& entry, const std::string& nam
   return NameProblem(name);
 }
 
-/// Fills in one source; returns what keeps it from being packed.
+/// Fills in one source; returns what keeps it from being packed, if anything.
 std::string Describe(const fs::directory_entry& entry, RarSource& source) {
   std::string problem = KindProblem(entry, source.name);
   if (!problem.empty()) return problem;

@@ -8,13 +8,13 @@
 
 namespace coilrun {
 
-/// The contents of a folder, ready to be packed; `problem` says what cannot be packed.
+/// The contents of a folder, ready to be packed; `problem` says what cannot be packed, if anything.
 struct SourceFolder {
   std::vector<RarSource> sources;
   std::string problem;
 };
 
-/// Everything in `folder`, names relative to it and sorted; `archive` itself is left out.
+/// Everything in `folder`, with names relative to it and sorted; `archive` itself is left out.
 SourceFolder ReadSourceFolder(const std::string& folder, const std::string& archive);
 
 /// A file of at most 256 MiB; nothing when it cannot be read.

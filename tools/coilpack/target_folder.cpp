@@ -36,7 +36,7 @@ FileHandle OpenFolder(const FileHandle& parent, const std::string& name) {
   return {parent, name, O_RDONLY | O_DIRECTORY | O_NOFOLLOW};
 }
 
-/// The folder that `parts` lead to, made as far as it is missing.
+/// The folder that `parts` lead to; folders that are missing on the way are made.
 FileHandle OpenPath(const FileHandle& root, std::span<const std::string> parts) {
   FileHandle folder(root, ".", O_RDONLY | O_DIRECTORY);
   for (const std::string& part : parts) {

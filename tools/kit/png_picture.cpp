@@ -7,7 +7,7 @@
 namespace coilrun {
 namespace {
 
-/// The game reads no larger bitmaps.
+/// The game does not read larger bitmaps.
 constexpr std::uint32_t kLargestSide = 4096;
 
 }  // namespace
@@ -22,7 +22,7 @@ PngPicture DecodePng(std::span<const std::uint8_t> file) {
   }
   if (image.width > kLargestSide || image.height > kLargestSide) {
     png_image_free(&image);
-    picture.problem = "larger than 4096 pixels a side";
+    picture.problem = "larger than 4096 pixels on a side";
     return picture;
   }
   picture.hasOpacity = (image.format & PNG_FORMAT_FLAG_ALPHA) != 0;

@@ -13,7 +13,7 @@ namespace coilrun {
 struct PngPicture {
   int width = 0;
   int height = 0;
-  bool hasOpacity = false;  ///< the file says how opaque its pixels are; else all of them are
+  bool hasOpacity = false;  ///< the file says how opaque its pixels are; otherwise all are opaque
   Bytes pixels;
   std::string problem;
 };

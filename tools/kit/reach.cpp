@@ -16,7 +16,7 @@ constexpr std::array kDirections = {Dir::kForw, Dir::kBack, Dir::kLeft, Dir::kRi
 constexpr std::uint8_t kBlowable = 1;
 constexpr std::uint8_t kHard = 2;
 
-/// How a head came to its place, as a bit; `Dir::kNone` is that of the start.
+/// How a head arrived at its place, as a bit; `Dir::kNone` stands for the start.
 constexpr std::uint8_t ArrivalBit(Dir dir) {
   return static_cast<std::uint8_t>(1U << static_cast<unsigned>(dir));
 }

@@ -9,8 +9,8 @@
 
 namespace coilrun {
 
-/// What takes a snake through walls: nothing; TNT, through those that it blows; atomic power,
-/// through all of them and round closed edges.
+/// What takes a snake through walls: nothing; TNT, through those that it blows up; atomic power,
+/// through all walls and across closed edges.
 enum class Force : std::uint8_t { kNone, kTnt, kPower };
 
 /// Marks, eight bits each, on the positions inside the field.
@@ -18,12 +18,12 @@ class PixelMarks {
  public:
   PixelMarks() : marks_(kWidth * kHeight) {}
 
-  /// The bits that are set; none outside the field.
+  /// The bits that are set here; none outside the field.
   std::uint8_t At(Point place) const { return InField(place) ? marks_[Index(place)] : 0; }
   /// True when a head at one of the marked positions touches `thing`.
   bool AnyTouches(const Reach& reach, Point thing) const;
   bool Any() const { return any_; }
-  /// Sets bits; true when one of them was not set. Outside the field nothing happens.
+  /// Sets bits; true when at least one of them was not set. Outside the field nothing happens.
   bool Set(Point place, std::uint8_t bits);
   void Add(const PixelMarks& marks);
 
@@ -47,11 +47,11 @@ class Ground {
 
   /// True when a head at this place dies on a wall.
   bool IsDeadly(Point head, Force force = Force::kNone) const;
-  /// Where one step takes a head, round an open edge too; nothing when it dies of it.
+  /// Where one step takes a head, across an open edge too; nothing when the step kills it.
   std::optional<Point> Step(Point from, Dir dir, Force force = Force::kNone) const;
-  /// Steps that a head can make straight ahead, counted up to `limit`.
+  /// How many steps a head can make straight ahead, counted up to `limit`.
   int FreeSteps(Point from, Dir dir, int limit) const;
-  /// Marks every place where a head that starts here can come alive, the start included. A head
+  /// Marks every place that a head from this start can reach alive, the start included. A head
   /// never turns back on the spot. No marks when it dies at its start.
   PixelMarks PlacesFrom(Point start, Force force = Force::kNone) const;
 

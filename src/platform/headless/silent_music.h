@@ -5,7 +5,7 @@
 
 namespace coilrun {
 
-/// Music that runs in virtual time and is not heard. It goes round at its end.
+/// Music that runs in virtual time and is not heard. It starts over at its end.
 class SilentMusic : public MusicOut {
  public:
   explicit SilentMusic(const Clock& clock) : clock_(clock) {}

@@ -14,7 +14,7 @@ class VirtualClock : public Clock {
 
   std::int64_t NowMicros() const override { return now_; }
   void Sleep(int milliseconds) override { now_ += std::int64_t{milliseconds} * 1000; }
-  /// Adds the time of one flip; the remainder is carried, so that `flipsPerSecond` flips are
+  /// Adds the time of one flip; the remainder is carried over, so that `flipsPerSecond` flips take
   /// exactly a second.
   void FlipAdvance();
 

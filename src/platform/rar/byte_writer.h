@@ -13,7 +13,7 @@ class ByteWriter {
   void U8(std::uint64_t value) { Number(value, 1); }
   void U16(std::uint64_t value) { Number(value, 2); }
   void U32(std::uint64_t value) { Number(value, 4); }
-  /// Seven bits a byte, lowest first, the top bit set while more follow.
+  /// Seven bits per byte, lowest first, with the top bit set while more follow.
   void Vint(std::uint64_t value) {
     for (; value >= 0x80; value >>= 7) U8((value & 0x7F) | 0x80);
     U8(value);

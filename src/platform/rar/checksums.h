@@ -10,7 +10,7 @@ namespace coilrun {
 
 /// CRC32 as archives and pictures use it (polynomial 0xEDB88320).
 std::uint32_t Crc32(std::span<const std::uint8_t> bytes);
-/// Nothing when the library fails: this and the following.
+/// This and the following return nothing when the library fails.
 std::optional<Digest256> Sha256(std::span<const std::uint8_t> bytes);
 std::optional<Digest256> HmacSha256(std::span<const std::uint8_t> key,
                                     std::span<const std::uint8_t> bytes);

@@ -15,7 +15,7 @@ bool NamesDrive(std::string_view part) {
   return part.size() >= 2 && part[1] == ':' && std::isalpha(static_cast<unsigned char>(part[0]));
 }
 
-/// Two dots or more; some systems drop blanks behind them.
+/// True for two dots or more; some systems drop blanks after them.
 bool LeadsUp(std::string_view part) {
   return part.starts_with("..") && part.find_first_not_of(". ") == std::string_view::npos;
 }

@@ -14,7 +14,7 @@ namespace {
 
 constexpr std::size_t kMainSize = 13;
 
-/// The fields that headers of all types begin with.
+/// The fields that every header begins with.
 struct BlockStart {
   std::uint16_t crc = 0;
   std::uint8_t type = 0;
@@ -48,7 +48,7 @@ RarHeaderResult ReadPlainHeader(std::span<const std::uint8_t> archive, std::size
   return {RarHeader{{header.begin(), header.end()}, at + header.size()}, {}};
 }
 
-/// Each encrypted header has a salt of its own, and so its own key.
+/// Each encrypted header has its own salt, and so its own key.
 RarHeaderResult ReadEncryptedHeader(std::span<const std::uint8_t> archive, std::size_t at,
                                     RarKeyRing& keyRing) {
   ByteReader reader(archive.subspan(at));
@@ -70,7 +70,7 @@ RarHeaderResult ReadEncryptedHeader(std::span<const std::uint8_t> archive, std::
   return {RarHeader{std::move(*header), at + reader.Position()}, {}};
 }
 
-/// Seconds since 1970 of a date in the form of old file systems, which know only local time.
+/// Seconds since 1970 of a date in the format of old file systems, which know only local time.
 std::int64_t SecondsOf(std::uint32_t dosTime) {
   std::tm local{};
   local.tm_sec = static_cast<int>(dosTime & 31) * 2;
@@ -83,7 +83,7 @@ std::int64_t SecondsOf(std::uint32_t dosTime) {
   return std::mktime(&local);
 }
 
-/// Old times count in steps of two seconds; the exact ones say whether a second is missing.
+/// Old times count in steps of two seconds; the exact times say whether a second is missing.
 bool HasOddSecond(ByteReader& reader) {
   return (reader.U16() >> 12 & 0xC) == 0xC;
 }

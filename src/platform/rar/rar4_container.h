@@ -9,7 +9,7 @@
 namespace coilrun {
 
 bool IsRar4(std::span<const std::uint8_t> archive);
-/// Walks an archive of generations 1.5 to 4.x. `keys` hold the password, should the headers be
+/// Walks an archive of generations 1.5 to 4.x. `keys` holds the password in case the headers are
 /// encrypted.
 RarListing ListRar4(std::span<const std::uint8_t> archive, RarKeyRing& keys);
 

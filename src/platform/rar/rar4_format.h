@@ -3,7 +3,7 @@
 #include <array>
 #include <cstdint>
 
-/// Numbers of the format of generations 1.5 to 4.x.
+/// The constants of the format of generations 1.5 to 4.x.
 namespace coilrun::rar4 {
 
 inline constexpr std::array<std::uint8_t, 7> kSignature = {'R', 'a', 'r', '!', 0x1A, 0x07, 0x00};

@@ -10,8 +10,8 @@
 namespace coilrun {
 namespace {
 
-/// Rebuilds the UTF-16 name: two bits a step say whether the next unit stands as a byte, as a byte
-/// under the common high byte, as two bytes, or is to be copied from the single-byte name.
+/// Rebuilds the UTF-16 name: two bits per step say whether the next unit is stored as one byte, as
+/// one byte below the common high byte, as two bytes, or is to be copied from the single-byte name.
 class TwoPartName {
  public:
   TwoPartName(std::span<const std::uint8_t> narrow, std::span<const std::uint8_t> wide)
@@ -64,7 +64,8 @@ std::string DecodeRar4Name(std::span<const std::uint8_t> stored, bool unicode) {
     name = Utf8FromUtf16(
         TwoPartName(stored.first(narrowSize), stored.subspan(narrowSize + 1)).Decode());
   } else if (!unicode && !IsUtf8(name)) {
-    // Unix programs stored UTF-8 without saying so; texts of other encodings hardly ever look so.
+    // Unix programs store UTF-8 without saying so; texts in other encodings hardly ever look like
+    // it.
     name = ToUtf8(name);
   }
   std::replace(name.begin(), name.end(), '\\', '/');

@@ -14,7 +14,7 @@ constexpr std::size_t kMaxHeaderSize = std::size_t{2} << 20;
 constexpr std::int64_t kTicksPerSecond = 10'000'000;
 constexpr std::int64_t kSecondsFrom1601To1970 = 11'644'473'600;
 
-/// Seven bits a byte, lowest first, the top bit set while more follow.
+/// Seven bits per byte, lowest first, with the top bit set while more follow.
 std::uint64_t Vint(ByteReader& reader) {
   std::uint64_t value = 0;
   for (unsigned shift = 0; shift < 64; shift += 7) {
@@ -26,7 +26,7 @@ std::uint64_t Vint(ByteReader& reader) {
   return 0;
 }
 
-/// The fields that headers of all types begin with.
+/// The fields that every header begins with.
 struct BlockStart {
   std::uint64_t type = 0;
   std::uint64_t flags = 0;
@@ -43,7 +43,7 @@ BlockStart ReadBlockStart(ByteReader& reader) {
   return start;
 }
 
-/// Reads `header` (size field and all that it counts); `end` is where it ends in the archive.
+/// Reads `header` (the size field and all that it counts); `end` is where it ends in the archive.
 RarHeaderResult Proven(std::span<const std::uint8_t> header, std::uint32_t crc, std::size_t end,
                        const char* fault) {
   if (Crc32(header) != crc) return {std::nullopt, fault};
@@ -152,7 +152,7 @@ void ReadCompression(std::uint64_t info, RarEntry& entry) {
   if (entry.packed.method > 5) entry.problem = "compressed in an unknown way";
 }
 
-/// The file block behind its common fields.
+/// Reads a file block from behind its common fields.
 RarEntry ReadFile(ByteReader& reader, const BlockStart& start) {
   RarEntry entry;
   const std::uint64_t flags = Vint(reader);

@@ -9,7 +9,7 @@
 namespace coilrun {
 
 bool IsRar5(std::span<const std::uint8_t> archive);
-/// Walks an archive of generation 5. `keys` hold the password, should the headers be encrypted.
+/// Walks an archive of generation 5. `keys` holds the password in case the headers are encrypted.
 RarListing ListRar5(std::span<const std::uint8_t> archive, RarKeyRing& keys);
 
 }  // namespace coilrun

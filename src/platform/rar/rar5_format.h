@@ -5,7 +5,7 @@
 
 #include "platform/rar/byte_writer.h"
 
-/// Numbers of the generation 5 format that its reader and its writer share.
+/// The constants of the generation 5 format that its reader and its writer share.
 namespace coilrun::rar5 {
 
 inline constexpr std::array<std::uint8_t, 8> kSignature = {'R',  'a',  'r',  '!',

@@ -20,7 +20,7 @@ void RarArchive::SetPassword(const std::string& password) {
 }
 
 std::optional<std::string> RarArchive::ReadHeader() {
-  // The password comes after `Open`, and encrypted headers cannot be walked without it.
+  // The password comes after `Open`, and encrypted headers cannot be read without it.
   if (!reader_) reader_ = std::make_unique<RarReader>(std::move(file_), password_);
   current_ = current_ ? *current_ + 1 : 0;
   if (*current_ >= reader_->Entries().size()) {

@@ -10,7 +10,7 @@
 
 namespace coilrun {
 
-/// The game's archives: RAR files of either generation, read from and unpacked into `files`.
+/// The game's archives: RAR files of either generation, read from `files` and unpacked into it.
 class RarArchive : public Archive {
  public:
   explicit RarArchive(Files& files) : files_(files) {}

@@ -14,7 +14,7 @@
 
 namespace coilrun {
 
-/// The header of a block, in the clear and proven by its checksum.
+/// The header of a block, decrypted and verified by its checksum.
 struct RarHeader {
   Bytes bytes;
   std::size_t end = 0;  ///< position in the archive right behind the header
@@ -29,7 +29,7 @@ struct RarHeaderResult {
 inline constexpr const char* kCutOff = "the archive is cut off";
 inline constexpr const char* kDamaged = "a header is damaged";
 inline constexpr const char* kDamagedOrWrongPassword = "wrong password or a damaged header";
-/// Notes where in the archive the packed bytes of an entry lie, of which `left` are there.
+/// Notes where in the archive the packed bytes of an entry lie; only `left` bytes remain there.
 inline void PlaceContents(RarEntry& entry, std::size_t at, std::uint64_t size, std::size_t left) {
   entry.packed.offset = at;
   entry.packed.size = static_cast<std::size_t>(std::min<std::uint64_t>(size, left));

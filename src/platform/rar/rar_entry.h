@@ -9,7 +9,7 @@
 
 namespace coilrun {
 
-/// What an archive may demand of us; everything beyond is refused as a bomb.
+/// What an archive may demand of us; anything beyond is refused as an archive bomb.
 inline constexpr std::uint64_t kMaxEntrySize = std::uint64_t{256} << 20;
 inline constexpr std::uint64_t kMaxArchiveSize = std::uint64_t{1} << 30;
 inline constexpr std::size_t kMaxEntries = 65536;
@@ -20,7 +20,7 @@ using AesBlock = std::array<std::uint8_t, 16>;
 using Digest256 = std::array<std::uint8_t, 32>;
 using RarCheckValue = std::array<std::uint8_t, 8>;
 
-/// How to make the keys of a generation 5 archive out of a password: 2^exponent rounds.
+/// How to make the keys of a generation 5 archive from a password: 2^exponent rounds.
 struct Rar5KeyRecipe {
   RarSalt salt{};
   int exponent = 0;
@@ -37,7 +37,7 @@ struct Rar4Encryption {
   std::optional<Rar4Salt> salt;
 };
 
-/// Where the packed bytes of an entry lie and what was done to them. Method 0 is stored.
+/// Where the packed bytes of an entry lie and what was done to them. Method 0 means stored.
 struct RarPacked {
   std::size_t offset = 0;
   std::size_t size = 0;
@@ -54,7 +54,7 @@ struct RarPacked {
 };
 
 /// One file or folder of an archive. `name` is UTF-8 with slashes, `mtime` in seconds since 1970.
-/// `problem` says in words why the entry cannot be read; it is empty when reading can be tried.
+/// `problem` says in words why the entry cannot be read; it is empty when it may be readable.
 struct RarEntry {
   std::string name;
   bool folder = false;

@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::uint32_t kRounds4 = 0x40000;
 
-/// What a key of generation 4 costs in rounds of generation 5.
+/// What a generation 4 key costs, in rounds of generation 5.
 constexpr std::int64_t kWorkOfKey4 = std::int64_t{1} << 14;
 
 constexpr const char* kTooMuchWork = "the archive asks for too much work to check its password";
@@ -27,7 +27,7 @@ std::optional<Digest256> Stretch(const std::string& password, const RarSalt& sal
   return key;
 }
 
-/// Little-endian UTF-16. Broken sequences give a password that fits nothing, which is all they can.
+/// Little-endian UTF-16. Broken sequences give a password that fits no archive.
 Bytes Utf16Bytes(std::string_view utf8) {
   Bytes result;
   for (const char16_t unit : Utf16FromUtf8(utf8)) {
@@ -39,7 +39,7 @@ Bytes Utf16Bytes(std::string_view utf8) {
 
 using Sha1Digest = std::array<std::uint8_t, 20>;
 
-/// A running SHA-1. A failure of the library shows at the end.
+/// An incremental SHA-1. A failure of the library shows at the end.
 class Sha1 {
  public:
   Sha1() : ok_(context_ && EVP_DigestInit_ex(context_.get(), EVP_sha1(), nullptr) == 1) {}

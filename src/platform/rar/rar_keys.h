@@ -29,21 +29,21 @@ struct RarKeyResult {
   std::string problem;
 };
 
-/// Makes the keys that a password (UTF-8) gives and remembers them by salt: each costs tens of
-/// milliseconds on purpose, and archives use few salts. An archive that asks for an absurd amount
-/// of such work gets no key.
+/// Derives keys from a password (UTF-8) and remembers them by salt: by design each costs tens of
+/// milliseconds, and archives use few salts. An archive that asks for an absurd amount of such work
+/// gets no key.
 class RarKeyRing {
  public:
   static constexpr int kMaxExponent = 20;
 
-  /// Some seconds of work, counted in rounds of generation 5.
+  /// A few seconds of work, counted in rounds of generation 5.
   static constexpr std::int64_t kUsualWork = std::int64_t{1} << 22;
 
   explicit RarKeyRing(std::string password, std::int64_t work = kUsualWork)
       : password_(std::move(password)), workLeft_(work) {}
 
   bool HasPassword() const { return !password_.empty(); }
-  /// What may yet be spent on new keys.
+  /// How much work may still be spent on new keys.
   void LimitWork(std::int64_t work) { workLeft_ = work; }
   /// Nothing for an exponent above `kMaxExponent`, when the archive's share of work is used up, or
   /// when libcrypto fails.
@@ -61,13 +61,13 @@ class RarKeyRing {
   std::int64_t workLeft_;
 };
 
-/// Nothing when libcrypto fails: these and the following.
+/// These and the following return nothing when libcrypto fails.
 std::optional<Rar5Keys> DeriveRar5Keys(const std::string& password, const RarSalt& salt,
                                        int exponent);
 std::optional<Rar4Keys> DeriveRar4Keys(const std::string& password,
                                        const std::optional<Rar4Salt>& salt);
 
-/// The first four bytes of the check value's SHA-256, which archives store behind it.
+/// The first four bytes of the check value's SHA-256, which archives store after it.
 std::optional<std::array<std::uint8_t, 4>> CheckValueSum(const RarCheckValue& check);
 /// What an archive with keyed checksums stores in place of a CRC.
 std::optional<std::uint32_t> TweakedCrc(std::uint32_t crc, const Rar5Keys& keys);

@@ -23,12 +23,12 @@ bool Compressed(const RarEntry& entry) {
   return !entry.folder && entry.packed.method > 0;
 }
 
-/// Whether the password can be told right or wrong before the contents are read.
+/// Whether a wrong password can be told before the contents are read.
 bool PasswordIsProven(const RarPacked& packed) {
   return packed.encryption5 && packed.encryption5->recipe.check;
 }
 
-/// libarchive spoils compressed contents of generation 4 where they outgrow its 4 MiB dictionary.
+/// libarchive corrupts compressed contents of generation 4 that outgrow its 4 MiB dictionary.
 bool MayBeBeyondLibarchive(const RarEntry& entry) {
   return entry.packed.version > 0 && Compressed(entry) && entry.size >= std::uint64_t{4} << 20;
 }
@@ -99,7 +99,7 @@ std::span<const std::uint8_t> RarReader::PackedBytes(const RarPacked& packed) co
   return std::span(file_).subspan(packed.offset, packed.size);
 }
 
-/// The packed bytes in the clear, for an entry without a `PasswordProblem`; nothing when libcrypto
+/// The packed bytes, decrypted, of an entry without a `PasswordProblem`; nothing when libcrypto
 /// fails.
 std::optional<Bytes> RarReader::Decrypt(const RarPacked& packed) {
   const auto bytes = PackedBytes(packed);
@@ -134,11 +134,11 @@ RarContents RarReader::Unpack(std::size_t index) {
   return {std::move(*contents), {}};
 }
 
-/// Readies the unpacker for the run of compressed entries that `index` belongs to.
+/// Prepares the unpacker for the run of compressed entries that `index` belongs to.
 std::string RarReader::PrepareUnpacker(std::size_t index) {
   if (std::binary_search(unpackerGroup_.begin(), unpackerGroup_.end(), index)) return {};
   if (generation_ == 4 && Entries()[index].packed.solid)
-    return "compressed together with earlier entries, which is not read in this generation";
+    return "compressed together with earlier entries, which cannot be read in this generation";
   const std::vector<std::size_t> group = GroupOf(index);
   if (!std::binary_search(group.begin(), group.end(), index))
     return "depends on an earlier entry that cannot be read";
@@ -181,7 +181,7 @@ std::vector<std::size_t> RarReader::GroupOf(std::size_t index) const {
   return group;
 }
 
-/// Why contents are not what the archive says they are; empty when all sums fit.
+/// Why contents are not what the archive says they are; empty when all sums match.
 std::string RarReader::SumsProblem(const RarEntry& entry, const Bytes& contents) {
   const RarPacked& packed = entry.packed;
   std::optional<Rar5Keys> keys;

@@ -21,8 +21,8 @@ struct RarContents {
   bool Ok() const { return problem.empty(); }
 };
 
-/// Reads RAR archives of both generations from memory: 1.5 to 4.x, and 5. What `Read` gives has the
-/// declared size and passes its checksum.
+/// Reads RAR archives of both generations from memory: 1.5 to 4.x, and 5. What `Read` returns has
+/// the declared size and the right checksum.
 class RarReader {
  public:
   /// True when the file begins like a RAR archive.
@@ -30,14 +30,14 @@ class RarReader {
 
   /// `password` is UTF-8; empty for none.
   RarReader(Bytes file, std::string password);
-  /// With keys that are made already.
+  /// With a key ring that may already hold keys.
   RarReader(Bytes file, RarKeyRing keys);
 
   const std::vector<RarEntry>& Entries() const { return listing_.entries; }
-  /// Why the walk over the entries stopped; empty when it came to a proper end.
+  /// Why the walk over the entries stopped; empty when it reached a proper end.
   const std::string& Fault() const { return listing_.fault; }
   const RarKeyRing& Keys() const { return keys_; }
-  /// Fast when the entries are read in order. A folder has no contents.
+  /// Reads an entry, fast when they are read in order. A folder has no contents.
   RarContents Read(std::size_t index);
 
  private:

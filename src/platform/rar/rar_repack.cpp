@@ -11,10 +11,10 @@
 namespace coilrun {
 namespace {
 
-/// Names are of no use to the decompressor, but it insists on one.
+/// The decompressor has no use for names, but it insists on one.
 constexpr std::uint8_t kName = 'x';
 
-/// The widest dictionary that libarchive takes: 64 MiB.
+/// The largest dictionary that libarchive takes: 64 MiB.
 constexpr unsigned kWidestWindow = 9;
 
 constexpr std::uint8_t kSolidArchive = 0x04;

@@ -7,7 +7,7 @@
 
 namespace coilrun {
 
-/// Compressed contents in the clear.
+/// Compressed contents, decrypted.
 struct CompressedItem {
   std::uint64_t size = 0;  ///< of the contents
   std::uint32_t crc = 0;   ///< of the contents; generation 4 only
@@ -17,13 +17,13 @@ struct CompressedItem {
   Bytes data;
 };
 
-/// Plain archives around compressed contents, in the shape that libarchive reads best: nothing but
-/// bare file headers. The items of a generation 5 archive after the first use the dictionary of
-/// those before them.
+/// Plain archives around compressed contents, in the form that libarchive reads best: nothing but
+/// bare file headers. In a generation 5 archive, items after the first use the dictionary of those
+/// before them.
 Bytes RepackRar4(const CompressedItem& item);
 Bytes RepackRar5(const std::vector<CompressedItem>& items);
 
-/// Generation 5 data up to the end of its last block: what follows is padding of the cipher.
+/// The size of generation 5 data up to the end of its last block; the cipher's padding follows.
 std::size_t PackedBlocksSize(const Bytes& data);
 
 }  // namespace coilrun

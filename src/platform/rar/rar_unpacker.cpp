@@ -5,7 +5,7 @@
 namespace coilrun {
 namespace {
 
-/// A sound archive gives no empty data blocks; so many in a row mean that no more will come.
+/// An intact archive has no empty data blocks; so many in a row mean that no more data will come.
 constexpr int kMaxEmptyBlocks = 1000;
 
 std::optional<Bytes> ReadContents(archive* handle, std::uint64_t size) {

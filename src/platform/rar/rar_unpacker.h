@@ -13,7 +13,7 @@
 namespace coilrun {
 
 /// Decompresses one item, or a run of items that share a dictionary, with libarchive. Fast when the
-/// items are asked for in order.
+/// items are requested in order.
 class RarUnpacker {
  public:
   RarUnpacker(int generation, const std::vector<CompressedItem>& items);

@@ -17,7 +17,7 @@ constexpr int kExponent = 15;
 constexpr std::uint64_t kFileMode = 0100644;
 constexpr std::uint64_t kFolderMode = 0040755;
 
-/// What the whole archive is encrypted with: one salt, so that a reader makes keys only once.
+/// What the whole archive is encrypted with: one salt, so that a reader derives keys only once.
 struct Cipher {
   RarSalt salt{};
   Rar5Keys keys;
@@ -45,8 +45,8 @@ std::optional<Digest256> Fingerprint(const RarSource& source) {
   return Sha256(text.Written());
 }
 
-/// Salt and initial vectors come from what is packed: as different as the contents are, and the
-/// same again for the same contents.
+/// Salt and initialisation vectors are made from what is packed: different for different contents,
+/// and the same again for the same contents.
 std::optional<Cipher> MakeCipher(std::span<const RarSource> sources, const std::string& password) {
   ByteWriter all;
   for (const RarSource& source : sources) {
@@ -79,7 +79,7 @@ Bytes CipherRecord(const Cipher& cipher, const AesBlock& iv) {
   return sized.Written();
 }
 
-/// The header always names its data's size, even 0: some readers give up without.
+/// The header always states its data's size, even 0: some readers give up without it.
 Bytes FileFields(const RarSource& source, const Bytes& extra, std::size_t dataSize,
                  std::uint32_t crc) {
   ByteWriter fields;

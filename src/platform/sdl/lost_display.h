@@ -6,12 +6,12 @@
 
 namespace coilrun {
 
-/// Notices that the X server is gone: without this the X library would end the process on the spot,
-/// and it can only be left after that. (On Wayland SDL itself asks to leave.)
+/// Notices that the X server is gone: without this the X library would end the process on the spot.
+/// (On Wayland, SDL itself asks the game to leave.)
 class LostDisplay {
  public:
-  /// Watches the display of this window until the process ends. `save` may call nothing that
-  /// needs the display; after it the process ends with exit code 0.
+  /// Watches the display of this window until the process ends. `save` must not call anything that
+  /// needs the display; after it, the process ends with exit code 0.
   void Watch(SDL_Window& window, std::function<void()> save);
 
   bool IsLost() const { return lost_; }

@@ -51,7 +51,7 @@ class RendererPresenter : public Presenter {
   bool waiting_ = false;
 };
 
-/// Software renderers that give themselves out as graphics cards, by what they are called.
+/// Recognises, by name, software renderers that pass themselves off as graphics cards.
 bool IsSoftwareName(std::string_view name) {
   constexpr std::array<std::string_view, 5> kNames = {"llvmpipe", "softpipe", "swrast", "SWR",
                                                       "Software"};
@@ -60,7 +60,7 @@ bool IsSoftwareName(std::string_view name) {
   });
 }
 
-/// What OpenGL says draws for the current context; empty when it cannot be asked.
+/// What draws for the current context, according to OpenGL; empty when it cannot be asked.
 std::string_view OpenGlRendererName() {
   constexpr unsigned kGlRenderer = 0x1F01;
   using GetString = const char* (*)(unsigned name);

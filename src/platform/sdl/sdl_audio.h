@@ -10,7 +10,7 @@ struct Mix_Chunk;
 
 namespace coilrun {
 
-/// Effects on the loudspeakers. Without a device they load as usual and play nothing.
+/// Effects on the loudspeakers. Without a device they load as usual and stay silent.
 class SdlAudio : public AudioOut {
  public:
   explicit SdlAudio(SdlMixer& mixer) : mixer_(mixer) {}

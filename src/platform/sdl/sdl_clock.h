@@ -6,7 +6,7 @@
 
 namespace coilrun {
 
-/// The time that the player lives in. Long waits keep the window alive.
+/// Real time. Long waits keep the window responsive.
 class SdlClock : public Clock {
  public:
   std::int64_t NowMicros() const override;

@@ -8,8 +8,8 @@
 
 namespace coilrun {
 
-/// Game controllers, plugged in and out at any time, as keys: stick and pad have codes of their own
-/// for each controller, A is Enter, B is Escape, Start is Pause.
+/// Game controllers, plugged in and out at any time, as keys: stick and pad have their own codes on
+/// each controller, A is Enter, B is Escape, Start is Pause.
 class SdlControllers {
  public:
   explicit SdlControllers(KeyQueue& keys) : keys_(keys) {}
@@ -21,7 +21,7 @@ class SdlControllers {
     SdlPointer<SDL_GameController> device;
     Stick stick;
     int number = 0;  ///< the lowest that was free, from 0
-    int code = 0;    ///< that the stick holds; 0 for none
+    int code = 0;    ///< the one that the stick holds down; 0 for none
   };
 
   void PlugIn(int deviceIndex);

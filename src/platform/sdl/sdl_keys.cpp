@@ -41,7 +41,7 @@ void SdlKeys::CloseOnLostDisplay() {
   try {
     if (listener_ != nullptr) listener_->OnWindowEvent(WindowEvent::kClose);
   } catch (const Terminate&) {
-    // The settings are saved; no way leads back through the X library.
+    // The settings are saved; there is no way back through the X library.
   }
 }
 

@@ -11,13 +11,13 @@ namespace coilrun {
 class SdlKeys : public KeySource {
  public:
   explicit SdlKeys(SdlWindow& window) : window_(window), controllers_(keys_) {}
-  /// Closes the window, whoever listens, when there is no display any more.
+  /// Tells the current listener to close the window, because the display is gone.
   void CloseOnLostDisplay();
 
   void Gather(WindowListener& listener) override;
   void Serve() override;
   void ReadKeys(KeySnapshot& keys) override { keys_.ReadKeys(keys); }
-  /// Drops the keys and focus changes that were for a box in front of the window.
+  /// Drops the keys and focus changes that were meant for a box in front of the window.
   void ForgetRecent();
 
  private:

@@ -12,7 +12,7 @@
 namespace coilrun {
 namespace {
 
-/// How often the window is looked after while the box waits.
+/// How often the window is served while the box waits.
 constexpr Uint32 kPatienceMillis = 30;
 
 std::optional<BoxAnswer> AnswerOfKey(SDL_Keycode key, bool isQuestion) {

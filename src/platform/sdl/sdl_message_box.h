@@ -12,11 +12,11 @@
 
 namespace coilrun {
 
-/// A message in the game's own window: it shows in full screen too, and a request to leave the
-/// program is heard while it waits. Its text goes to standard error as well.
+/// A message in the game's own window, so that it shows in full screen too, and a request to leave
+/// the program is noticed while it waits. Its text also goes to standard error.
 class SdlMessageBox : public MessageBox {
  public:
-  /// `stopped` tells whether the program shall be left.
+  /// `stopped` tells whether the program has been asked to leave.
   SdlMessageBox(SdlWindow& window, SdlKeys& keys, TextFace& text, std::function<bool()> stopped)
       : window_(window), keys_(keys), text_(text), stopped_(std::move(stopped)) {}
 

@@ -8,7 +8,7 @@ namespace {
 
 constexpr int kRate = 44'100;
 constexpr int kStereo = 2;
-/// Samples mixed at a time: 12 ms, so that an effect comes with the picture.
+/// Samples mixed at a time: 12 ms, so that an effect keeps up with the picture.
 constexpr int kChunk = 512;
 constexpr int kChannels = 32;
 

@@ -2,7 +2,7 @@
 
 namespace coilrun {
 
-/// The sound device that effects and music share. It stays closed where there is none.
+/// The sound device that effects and music share. It stays closed if there is none.
 class SdlMixer {
  public:
   SdlMixer() = default;

@@ -8,7 +8,7 @@
 namespace coilrun {
 namespace {
 
-/// Where the length of a file is not known: longer than anyone listens.
+/// Stands in for an unknown length: longer than anyone listens.
 constexpr double kEndless = 86'400;
 constexpr int kForever = -1;
 
@@ -18,7 +18,7 @@ struct MusicFreer {
 
 }  // namespace
 
-/// A piece of music plays from the file's bytes as it goes.
+/// A piece of music, which is decoded from the file's bytes as it plays.
 struct SdlMusic::Piece {
   explicit Piece(std::span<const std::uint8_t> file)
       : bytes(file.begin(), file.end()),

@@ -9,7 +9,7 @@
 
 namespace coilrun {
 
-/// Music on the loudspeakers, going round at its end. Without a device it runs unheard.
+/// Music on the loudspeakers, which starts over at its end. Without a device it runs unheard.
 class SdlMusic : public MusicOut {
  public:
   SdlMusic(const SdlMixer& mixer, const Clock& clock);

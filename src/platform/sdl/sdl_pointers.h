@@ -6,7 +6,7 @@
 
 namespace coilrun {
 
-/// Gives SDL's objects back in the way each of them wants.
+/// Releases each of SDL's objects in the way it requires.
 struct SdlDeleter {
   void operator()(SDL_Window* window) const { SDL_DestroyWindow(window); }
   void operator()(SDL_Renderer* renderer) const { SDL_DestroyRenderer(renderer); }

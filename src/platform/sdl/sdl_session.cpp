@@ -8,8 +8,8 @@
 namespace coilrun {
 namespace {
 
-/// Where SDL finds no display it draws into memory; that is a display only for those who ask for
-/// it.
+/// Where SDL finds no display, it draws into memory; that counts as a display only when it was
+/// asked for.
 bool IsRealDisplay() {
   const std::string_view driver = SDL_GetCurrentVideoDriver();
   const bool inMemory = driver == "offscreen" || driver == "dummy" || driver == "evdev";

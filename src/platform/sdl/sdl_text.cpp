@@ -14,7 +14,7 @@
 namespace coilrun {
 namespace {
 
-/// A face in both weights; the last one serves every name that is not here.
+/// A face in both weights; the last one stands in for every name not listed.
 struct Face {
   std::string_view name;
   const char* regular;
@@ -34,7 +34,7 @@ const Face& FaceOf(std::string_view name) {
   return kSansFace;
 }
 
-/// Pixels of a size in points, at 96 dots an inch, rounded.
+/// A size in points as pixels at 96 dots per inch, rounded.
 int PixelSize(int points) {
   return (points * 96 + 36) / 72;
 }
@@ -112,8 +112,8 @@ class SdlText::Fonts {
     return Open(style.bold ? kSansFace.bold : kSansFace.regular, style.size);
   }
 
-  /// The open font, opened at the first call; nothing, also the first time only looked for, when
-  /// there is none.
+  /// The open font, which the first call opens; nothing when there is none, which is looked for
+  /// only once.
   TTF_Font* Open(const std::string& name, int points) {
     if (!ready_ || points <= 0) return nullptr;
     const auto [entry, isNew] = fonts_.try_emplace({name, points});

@@ -9,12 +9,12 @@
 
 namespace coilrun {
 
-/// System-font texts from the font files that come with the game; needs no window.
+/// Texts in system fonts, from the font files that come with the game; needs no window.
 class SdlText : public TextFace {
  public:
   using Report = std::function<void(const std::string& line)>;
 
-  /// A font file that cannot be opened is told to `report` once.
+  /// A font file that cannot be opened is reported once.
   SdlText(std::filesystem::path fontFolder, Report report);
   ~SdlText() override;
 

@@ -10,7 +10,7 @@ namespace coilrun {
 namespace {
 
 constexpr const char* kTitle = "Coilrun";
-/// What a window's frame and a desktop's panel may take of the display's height.
+/// How much of the display's height a window's frame and a desktop's panel may take.
 constexpr int kFrameRoom = 60;
 
 struct Size {
@@ -26,7 +26,7 @@ Size WindowedSize() {
   return fitsTwice ? Size{2 * kScreenWidth, 2 * kScreenHeight} : Size{};
 }
 
-/// The whole display: without a window manager a window gets no larger than it was made.
+/// The whole display: without a window manager, a window cannot grow later.
 Size FullSize() {
   SDL_Rect bounds{};
   if (SDL_GetDisplayBounds(0, &bounds) != 0) return {};
@@ -83,8 +83,8 @@ void SdlWindow::Present(ScreenPixels primary) {
 }
 
 void SdlWindow::SetFullScreen(bool on) {
-  // A window over the desktop that has lost the focus lies behind others already; minimising it
-  // would take it from players who look at it on a second display.
+  // A full-screen window that has lost the focus already lies behind others; minimising it would
+  // take it from players who watch it on a second display.
   if (on) ApplyFullScreen();
 }
 

@@ -15,14 +15,14 @@
 
 namespace coilrun {
 
-/// The game's window: full screen over the desktop, or one among others.
+/// The game's window: full screen over the desktop, or an ordinary window.
 class SdlWindow : public Screen {
  public:
   SdlWindow(const SdlClock& clock, bool windowed, const std::filesystem::path& icon);
 
   /// Why there is no window; empty when there is one.
   const std::string& Problem() const { return problem_; }
-  /// The picture is drawn anew by the next flip.
+  /// Makes the next flip draw the whole picture again.
   void Damaged() { presenter_->Forget(); }
   /// Calls `save` when the display is lost, then ends the process.
   void SaveWhenLost(std::function<void()> save) { display_.Watch(*window_, std::move(save)); }
