@@ -1,5 +1,5 @@
-# One static library a folder: coilrun_library(platform ports LIBS PNG::PNG) builds src/platform, which may use src/ports and,
-# for itself alone, the libraries named.
+# One static library per folder: coilrun_library(platform ports LIBS PNG::PNG) builds src/platform, which may use src/ports and,
+# only for itself, the libraries named.
 function(coilrun_library folder)
   cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "LIBS")
   file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.cpp)

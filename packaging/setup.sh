@@ -1,11 +1,11 @@
-# Shared by ./play and ./test: the Debian packages that the project needs, and how to install and build.
+# Shared by ./play and ./test: the Debian packages that the project needs, and how to install them and build.
 
 build_packages="g++ cmake ninja-build pkg-config libsdl2-dev libsdl2-mixer-dev libsdl2-ttf-dev libx11-dev libarchive-dev libssl-dev
   libb2-dev zlib1g-dev libpng-dev libsimpleini-dev nlohmann-json3-dev fonts-liberation2 fonts-comic-neue"
 test_packages="libgtest-dev libgmock-dev libbenchmark-dev clang-format xvfb xauth xdotool openbox x11-apps imagemagick unar
   libarchive-tools python3 python3-numpy python3-pil desktop-file-utils vorbis-tools"
 
-# Installs the packages named that are missing; says in one line what to do when that is not possible.
+# Installs those of the given packages that are missing, or says in one line what to do if that is not possible.
 install_packages() {
   missing=""
   for package in "$@"; do
@@ -28,8 +28,8 @@ install_packages() {
   }
 }
 
-# build PRESET TESTS TARGET...: configures and builds, with the tests and warnings as errors (ON) or without (OFF). What is
-# built to be played must build with any compiler; a folder that the tests built stays as strict, or all would be built anew.
+# build PRESET TESTS TARGET...: configures and builds, with tests and with warnings as errors (ON) or without both (OFF). What
+# is built for playing must build with any compiler; a folder built for tests stays strict, or everything would be rebuilt.
 build() {
   preset=$1
   tests=$2

@@ -1,4 +1,4 @@
-// The rim of a closed field, 10 pixels broad: a snake's outermost cells end exactly at its inside.
+// The rim of a closed field, 10 pixels wide: a snake's outermost cells end exactly at its inside.
 // MATERIAL: 0 brick, 1 stone, 2 timber, 3 snow, 4 steel. Rendered with nothing behind it.
 #version 3.7;
 #include "field.inc"

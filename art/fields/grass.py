@@ -20,7 +20,7 @@ def _patches(rng):
 
 
 def _blade_colour(rng, tone):
-    """Straw to sage by the patch's tone, with a little of its own."""
+    """Straw to sage by the tone of the patch, with a little variation."""
     dry = np.array([170, 168, 98])
     fresh = np.array([112, 136, 74])
     colour = fresh + (dry - fresh) * np.clip(tone + rng.normal(0, 0.16), 0, 1)

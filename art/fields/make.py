@@ -1,10 +1,10 @@
 """The play-field backgrounds, 640 x 480.
 
-A closed field has a rim 10 pixels broad: heads move from 10 to 630 and from 10 to 470, so a snake
-just touches it. The names that end in _open have none; they are for levels with open walls.
-All keep to the middle tones and to muted colours, so that bright items, dark items, bricks and
-text all stand out, and most so where the game writes: behind the status line, the messages and the
-item panel a floor is a little darker and loses its fine detail.
+A closed field has a rim 10 pixels wide: heads move from 10 to 630 and from 10 to 470, so a snake
+just touches it. Fields whose names end in _open have none; they are for levels with open edges.
+All keep to middle tones and muted colours, so that bright items, dark items, bricks and text all
+stand out, most of all where the game writes: behind the status line, the messages and the item
+panel a floor is a little darker and loses its fine detail.
 """
 
 from pathlib import Path
@@ -19,7 +19,7 @@ SHADOW = 7  # how far the rim's shadow reaches into the field
 
 BRICK, STONE, TIMBER, SNOW, STEEL = range(5)
 
-# name: (floor scene, or None for the meadow that is drawn; rim)
+# name: (floor scene, or None for the meadow, which is drawn; rim)
 FIELDS = {
     "bkg_standart": ("flagstones", BRICK),
     "bkg_stone": ("cobbles", STONE),
@@ -38,7 +38,7 @@ FIELDS = {
 # Where the game writes: left, top, right, bottom.
 BANDS = ((14, 18, 626, 40), (14, 38, 320, 92), (18, 446, 280, 474))
 BAND_FADE = 60
-BAND_DETAIL = 0.5  # what is left there of the detail
+BAND_DETAIL = 0.5  # how much of the detail is left there
 BAND_LIGHT = 0.93
 
 
@@ -78,7 +78,7 @@ def _calmed(floor):
 
 
 def _shadow():
-    """How much light the rim leaves: dark along the upper and left inside, fading inwards."""
+    """How much light the rim lets through: dark along its upper and left inner edge, fading inwards."""
     y, x = np.mgrid[0:HEIGHT, 0:WIDTH] + 0.5
     near = np.minimum(x, y) - RIM
     far = np.minimum(WIDTH - x, HEIGHT - y) - RIM

@@ -58,7 +58,7 @@ def redrawn():
 
 
 def letter_dots(char, font, letters):
-    """Ink of a one-bit letter and the row of it that stands on the base line."""
+    """The ink of a one-bit letter, and which of its rows stands on the base line."""
     if char in letters:
         dots, below = letters[char]
         return dots, dots.shape[0] - 1 - below
@@ -96,7 +96,7 @@ def small_glyph(char, font, box, base, fills, letters):
 
 
 def outline(char, font, width, height, base):
-    """Fine mask of a letter as wide as its ink, with SPARE rows more above the cell."""
+    """Fine mask of a letter as wide as its ink, with SPARE more rows above the cell."""
     size = (width * SCALE, (height + SPARE) * SCALE)
     big = Image.new("L", size, 0)
     place = (size[0] // 2, (base + SPARE) * SCALE)
@@ -119,7 +119,7 @@ def lowered(shape, base, room):
 
 
 def large_glyph(char, font, box, base, centre, widest, stops, weight, rim_radius):
-    """Smooth letter, squeezed to the widest that fits, with gradient, lit upper edge and rim."""
+    """Smooth letter, squeezed until it fits, with gradient, lit upper edge and rim."""
     left, top, right, bottom = box
     w, h = right - left, bottom - top
     room = int((rim_radius + weight + 0.05) * SCALE)
@@ -188,7 +188,7 @@ def large_sheet(
     name, size, width, height, file, pixels, base, centre, widest, stops, weight, rim=1.2
 ):
     font = ImageFont.truetype(file, pixels * SCALE)
-    # Letters whose cells the sheet's edge cuts off have whole ones behind the others.
+    # Letters whose cells the sheet's edge cuts off have whole cells after the others.
     cut = "".join(row[-1] for row in ROWS[:2]) if cell(25, 0, width, height)[2] > size[0] else ""
     sheet(
         name,

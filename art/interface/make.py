@@ -197,7 +197,7 @@ def main():
 
 
 def icons():
-    """The program's icon; the smallest sizes come from a drawing with less in it."""
+    """The program's icon; the smallest sizes come from a simpler drawing."""
     folder = ROOT / "assets" / "icon"
     drawings = [HERE / "icon_small.svg" if size < 40 else folder / "coilrun.svg" for size in ICONS]
     jobs = [Drawing(drawing, 8 * size / 256) for drawing, size in zip(drawings, ICONS)]

@@ -1,4 +1,4 @@
-// The options page: a stone tablet with a dark face for the texts, the boa lies over its edge.
+// The options page: a stone tablet with a dark face for the texts, with the boa lying over its edge.
 #declare Haze = 400;
 #include "court.inc"
 

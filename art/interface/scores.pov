@@ -51,7 +51,7 @@ object { Bunch(5, 1.5, 51) rotate 160 * x rotate <-20, 40, 0> translate <Cx + 0.
 object { Bunch(6, 1.25, 52) rotate 30 * y translate <-0.95, 1.95, -3.9> }
 object { Banana(1.5) rotate 95 * z rotate 20 * y translate <-2.4, 0.7, -4.6> }
 
-// The boa goes once and a half around the pedestal and up to the cup.
+// The boa winds one and a half times around the pedestal and up to the cup.
 #declare Course = spline {
   natural_spline
   0.00, <-5.9, 0.10, -4.0>

@@ -1,8 +1,8 @@
 """The six animated items, 45 frames each, and the five flat ones.
 
-Told apart without colour: a banana's crescent (yellow), a chili's broad-shouldered cone with a cap
-(red), a cut crystal pointed at both ends (blue), a black banana half peeled, its skin splayed
-(black), a square bundle with a label (TNT), an atom's round medal (atomic power).
+They can be told apart without colour: a banana's crescent (yellow), a chili's broad-shouldered cone
+with a cap (red), a cut crystal pointed at both ends (blue), a half-peeled banana with splayed skin
+(black), a square bundle with a label (TNT), a round medal with an atom (atomic power).
 """
 
 from pathlib import Path

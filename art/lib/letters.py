@@ -12,7 +12,7 @@ SPARTAN = "/usr/share/fonts/opentype/league-spartan/LeagueSpartan-Black.otf"
 
 
 def distance(mask, reach):
-    """Distance of every sample from the nearest set one, right up to the reach."""
+    """Distance of every sample from the nearest set one, exact up to the reach."""
     height = mask.shape[0]
     far = 4 * int(reach) + 4
     column = np.where(mask, 0, far).astype(np.int64)
@@ -34,7 +34,7 @@ def grown(mask, radius):
 
 
 def written(text, font, size, spacing, width, height, base, fine, centre=None):
-    """A mask, fine samples a pixel, of a line of text with its base line at a row, centred."""
+    """A mask, with fine samples per pixel, of a centred line of text with its base line at a row."""
     face = ImageFont.truetype(font, int(size * fine))
     advance = [face.getlength(char) + spacing * fine for char in text]
     middle = width / 2 if centre is None else centre

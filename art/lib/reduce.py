@@ -1,8 +1,8 @@
 """Reduces large renders to game pictures with clean edges against a colour key.
 
-The game keys pictures by one exact colour, so a pixel is either wholly there or wholly not. A render
-several times the final size, transparent outside, is averaged in linear light with premultiplied
-colour; so the background never mixes into an edge pixel.
+The game keys pictures by one exact colour, so a pixel is either drawn or not. A render several times
+the final size, transparent outside, is averaged in linear light with premultiplied colour, so that
+the background never mixes into an edge pixel.
 """
 
 from pathlib import Path

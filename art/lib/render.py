@@ -1,7 +1,7 @@
-"""Runs POV-Ray and rsvg-convert: two single-thread processes side by side, kept by content.
+"""Runs POV-Ray and rsvg-convert: two single-threaded processes side by side, cached by content.
 
 A render lies in the work folder under a hash of everything that goes into it, so that remaking a
-class renders only what changed. The work folder is build/art, or $COILRUN_ART_WORK.
+class renders only what has changed. The work folder is build/art, or $COILRUN_ART_WORK.
 """
 
 import hashlib
@@ -109,7 +109,7 @@ def _run(job):
 
 
 def render_all(jobs):
-    """Renders the jobs; returns for each the list of its picture files (one, or one a frame)."""
+    """Renders the jobs; returns for each the list of its picture files (one, or one per frame)."""
     WORK.mkdir(parents=True, exist_ok=True)
     with ThreadPoolExecutor(SIDE_BY_SIDE) as pool:
         return list(pool.map(_run, jobs))

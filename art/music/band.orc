@@ -1,6 +1,6 @@
 ; The band that plays the scores. Every note brings
 ;
-;   p4 note number   p5 loudness 0..1   p6 pan 0..1   p7 share to the room   p8 share to the echo
+;   p4 note number   p5 loudness 0..1   p6 pan 0..1   p7 share sent to the room   p8 share sent to the echo
 ;
 ; A note must sound the same in every pass of a loop: noise starts from a fixed seed, and nothing
 ; runs freely from note to note.
@@ -24,7 +24,7 @@ opcode Play, 0, aiiii
   gaEcho += aIn * iLoud * iEcho
 endop
 
-; Shorter for higher notes, as bars and strings are.
+; Shorter for higher notes, like bars and strings.
 opcode Ring, i, ii
   iSeconds, iFreq xin
   xout limit(iSeconds * sqrt(220 / iFreq), 0.15, iSeconds * 1.6)

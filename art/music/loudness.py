@@ -4,7 +4,7 @@ import numpy as np
 
 
 def loudness(samples, rate):
-    """samples: frames x channels in -1..1. What lies below hearing counts less, treble a little more."""
+    """samples: frames x channels in -1..1. What is too low to hear counts less, treble a little more."""
     s = 2j * np.pi * np.fft.rfftfreq(len(samples), 1 / rate)
     low, high, top = 2 * np.pi * 38, 2 * np.pi * 1682, 10 ** (4 / 20)
     weight = np.abs(s / (s + low)) ** 2

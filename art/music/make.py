@@ -1,10 +1,10 @@
 """The music: each NAME.abc is played by the instruments of band.orc and becomes assets/music/NAME.ogg.
 
-abc2midi reads the score, this file turns its notes into a csound score. The score is played twice
-and the second pass is cut out, so that what still rings at the end rings on at the loop's start.
+abc2midi reads the score, and this file turns its notes into a csound score. The score is played
+twice and the second pass is kept, so that what still rings at the end rings on at the loop's start.
 
 In a score, %%MIDI program chooses the instrument by the numbers of BAND; a voice with program
-DRUMS plays the drums of KIT. Controls: 7 loudness, 10 pan, 91 share to the room, 94 to the echo.
+DRUMS plays the drums of KIT. Controls: 7 loudness, 10 pan, 91 share sent to the room, 94 to the echo.
 """
 
 import hashlib
@@ -41,7 +41,7 @@ KIT = {
     71: "HandDrum", 72: "HandDrum", 74: "HandDrum", 76: "Clank", 77: "Tom", 79: "FrameDrum",
     81: "FrameEdge", 83: "Cymbal",
 }  # fmt: skip
-CONTROLS = {7: 100, 10: 64, 91: 30, 94: 0}  # and where they start
+CONTROLS = {7: 100, 10: 64, 91: 30, 94: 0}  # with the values at which they start
 
 
 @dataclass
@@ -129,7 +129,7 @@ def instrument(note):
 
 
 def csound_score(notes, length, beat, tick):
-    """The score played twice, and one pass in blocks. Notes begin on blocks, so that both passes are alike."""
+    """The score played twice, and the blocks in one pass. Notes begin on blocks, so that both passes are alike."""
     blocks = math.ceil(length * tick * RATE / BLOCK)
     second = RATE / BLOCK
     lines = [f'i "Surroundings" 0 {2 * blocks / second:.6f} {beat * ECHO_BEATS:.6f}']
@@ -146,7 +146,7 @@ def csound_score(notes, length, beat, tick):
 
 
 def play(name):
-    """The second pass of a score as floating-point samples, kept in the work folder by content."""
+    """The second pass of a score as floating-point samples, cached in the work folder by content."""
     abc = HERE / f"{name}.abc"
     digest = hashlib.sha1(b"".join(p.read_bytes() for p in (abc, ORCHESTRA, Path(__file__)))).hexdigest()[:16]
     kept = render.WORK / f"{name}-{digest}.npy"
@@ -166,7 +166,7 @@ def play(name):
 
 
 def limit(samples, ceiling, reach=0.012):
-    """Holds the peaks below the ceiling without a click, and round the loop's seam too."""
+    """Holds the peaks below the ceiling without a click, even across the loop's seam."""
     width = int(reach * RATE)
     gain = np.minimum(1, ceiling / np.maximum(np.abs(samples).max(axis=1), 1e-9))
     lowest = gain.copy()
@@ -182,7 +182,7 @@ def limit(samples, ceiling, reach=0.012):
 
 
 def master(samples):
-    """To the common loudness, without offset, the peaks below the ceiling."""
+    """Brings samples to the common loudness, without offset and with the peaks below the ceiling."""
     samples = samples - samples.mean(axis=0)
     for _ in range(3):
         samples = samples * 10 ** ((LOUDNESS_DB - loudness(samples, RATE)) / 20)

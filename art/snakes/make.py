@@ -12,7 +12,7 @@ from tube import BACK, CELL, FORW, LEFT, RIGHT, Canvas, Path, Ring
 
 TARGET = ROOT / "assets" / "models"
 AUTHOR = "Coilrun"
-CONTOUR = 0.7  # what is left of the brightness at the edge of a snake
+CONTOUR = 0.7  # how much of the brightness is left at the edge of a snake
 HEADS = {"head_forw": FORW, "head_back": BACK, "head_left": LEFT, "head_right": RIGHT}
 STRAIGHT = {"Snake_forw": FORW, "Snake_back": BACK, "Snake_left": LEFT, "Snake_right": RIGHT}
 TAILS = {"tail_forw": FORW, "tail_back": BACK, "tail_left": LEFT, "tail_right": RIGHT}

@@ -1,4 +1,4 @@
-"""All snake models, sorted as the game sorts them.
+"""All snake models, in the game's order.
 
 A model has a folder name, a display name and three methods that draw on a canvas along a path:
 body, head and tail.  Whatever reaches a border of the cell must be the same on both sides of it.

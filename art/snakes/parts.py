@@ -41,7 +41,7 @@ def tongue(canvas, path, s, colour=rgb(225, 20, 45)):
 
 
 def scales(s, v, along=7, across=3.0, depth=0.22):
-    """Relief of overlapping scales, whole periods a cell."""
+    """Relief of overlapping scales, in whole periods per cell."""
     return depth * np.abs(
         np.sin(np.pi * (along * s + across * v)) * np.sin(np.pi * (along * s - across * v))
     )

@@ -3,8 +3,8 @@
 A piece is a path through one cell of 20 x 20 (straight, or a quarter circle about a corner) with
 shapes laid along it: tubes, ellipsoids, strokes.  Places on a path are (s, d): s runs 0 to 1 from
 the side where a snake comes in to the side where it goes out, d is the distance to the left of the
-path in pixels.  Every direction is drawn anew under the same two lights, from the north and from
-the west.
+path in pixels.  Every direction is drawn separately under the same two lights, from the north and
+from the west.
 """
 
 import numpy as np
@@ -12,9 +12,9 @@ import numpy as np
 from lib import reduce
 
 CELL = 20
-FINE = 8  # samples a pixel and axis
+FINE = 8  # samples per pixel and axis
 MARGIN = 6  # pixels around the cell that are drawn and cut off
-INSET = 1.2  # pixels next to a joined side that only the joined tube itself may touch
+INSET = 1.2  # pixels next to a joined side that only the joining tube may touch
 FORW, BACK, LEFT, RIGHT = (0, -1), (0, 1), (-1, 0), (1, 0)
 
 
@@ -53,7 +53,7 @@ def profile(*points):
 
 
 def rounded(curve, end, length, forward=True):
-    """The curve closed by a round tip: 0 beyond the end, full a length before it."""
+    """The curve closed by a round tip: 0 beyond the end, full one length before it."""
 
     def closed(s):
         x = np.clip(((end - s) if forward else (s - end)) / length, 0, 1)
@@ -156,7 +156,7 @@ class Canvas:
         self.glow = np.zeros((side, side))
 
     def put(self, inside, z, slope_x, slope_y, colour, gloss=0.3, glow=0.0):
-        """Lays a shape given by its height and slopes where it is inside and higher."""
+        """Lays down a shape, given by its height and slopes, where it is inside and higher."""
         top = inside & (z > self.z)
         normal = np.stack([-slope_x, -slope_y, np.ones_like(z)], axis=-1)
         normal /= np.linalg.norm(normal, axis=-1, keepdims=True)
@@ -193,7 +193,7 @@ class Canvas:
         self.put(inside, path.scale * z + lift, slope_x, slope_y, **look)
 
     def free(self, path):
-        """Where shapes may lie that do not go on in the next piece."""
+        """Where shapes may lie that do not continue in the next piece."""
         return path.room(self.x, self.y) > INSET
 
     def ball(self, path, s, d, z, size, colour, gloss=0.5, glow=0.0, turn=0.0):

@@ -1,7 +1,7 @@
 """The four sound effects: synthesised by csound at 88.2 kHz, finished by sox.
 
-Each is NAME.csd. csound leaves head room (floating point); sox adds the room, takes away what lies
-below hearing, fades the end and comes down to the game's format with dither.
+Each is NAME.csd. csound leaves headroom (floating point); sox adds the room, removes what is too low
+to hear, fades the end and converts to the game's format with dither.
 """
 
 import subprocess
@@ -25,7 +25,7 @@ EFFECTS = {
 def make(name, length, reverberance, room, folder):
     raw, dry = Path(folder) / f"{name}_raw.wav", HERE / f"{name}.csd"
     subprocess.run(["csound", "-d", "-m0", "-W", "-f", "-o", str(raw), str(dry)], check=True, capture_output=True)
-    # Padded first, or the reverberation ends with its source.
+    # Padded first; otherwise the reverberation would end with its source.
     effects = f"pad 0 0.6 reverb {reverberance} 60 {room} highpass 25 trim 0 {length} fade t 0 {length} {length / 4}"
     finish = f"gain -n {PEAK_DB} rate -v {RATE} gain -n {PEAK_DB} dither"
     command = ["sox", "-R", "-V1", str(raw), "-b", "16", "-e", "signed-integer", str(SND / f"{name}.wav")]

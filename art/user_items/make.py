@@ -1,15 +1,16 @@
-"""Pictures of a level's own walls ("set:" lines): still ones, and animated ones of 45 frames.
+"""Pictures for a level's own walls ("set:" lines): still ones, and animated ones of 45 frames.
 
-A level decides with "let:" what TNT does. By their looks:
+A level decides with "let:" what TNT does. By their looks, these:
 
     can be blown up    ui_crate ui_barrel ui_bush ui_ice ui_cactus ui_hedge ui_flower ui_lock ui_cloud;
                        ui_fan ui_wheel ui_fountain ui_lantern
     withstand TNT      ui_rock ui_steel ui_idol ui_tree ui_gate ui_pillar ui_crystal;
                        ui_flame ui_coil ui_water ui_lava
 
-A still one is set by its file (ui_crate.bmp), an animated one by its folder (ui_fan). Animated ones
-are keyed black when a level loads them and grey 131 when they are loaded again, so they fill their
-cell and leave nothing to a key: water and lava run on from cell to cell, the others stand on a slab.
+A still one is set by its file (ui_crate.bmp), an animated one by its folder (ui_fan). The key of
+animated ones is black when a level loads them and grey 131 when they are loaded again, so they fill
+their cell and leave nothing to a key: water and lava run on from cell to cell, the others stand on a
+slab.
 """
 
 from pathlib import Path
@@ -38,7 +39,7 @@ def _scene(name, frames=0, **declare):
 
 
 def _on_slab(thing, slab):
-    """Both averaged in linear light, every pixel opaque and clear of both keys."""
+    """The two averaged in linear light, with every pixel opaque and clear of both keys."""
     colour, coverage = reduce.block_average(thing, ZOOM)
     under, _ = reduce.block_average(slab, ZOOM)
     low, high = reduce.to_linear(under), reduce.to_linear(colour)

@@ -1,4 +1,4 @@
-// A white cloud with a flash in it: can be blown up, as clouds are.
+// A white cloud with a flash in it: can be blown up.
 #version 3.7;
 #include "stage.inc"
 Stage(90, 0)

@@ -1,4 +1,4 @@
-// A fan behind a square housing; one of its three blades has a red tip. Two turns in a cycle.
+// A fan behind a square housing; one of its three blades has a red tip. Two turns per cycle.
 #version 3.7;
 #include "stage.inc"
 Stage(90, 0)

@@ -1,16 +1,16 @@
 """The seven wall pieces.
 
-A map code draws one piece; the pictures of upright runs are the brik_h ones, those of level runs
-the brik_v ones:
+A map code draws one piece; vertical walls have the brik_h pictures, horizontal walls the brik_v
+ones:
 
-    <---->   brik_v_l, brik_v ..., brik_v_r: a level wall, its ends rounded
-    ^        brik_h_t: the upper end of an upright wall
+    <---->   brik_v_l, brik_v ..., brik_v_r: a horizontal wall with rounded ends
+    ^        brik_h_t: the upper end of a vertical wall
     |        brik_h:   its middle
     .        brik_h_b: its lower end
     +        brik:     a pier, wherever walls meet or turn, at the corners of a frame, or alone
 
-Runs are 18 pixels broad and join along their length without a seam; a pier fills its cell, so
-runs end flush against it from any side and it stands a little proud of them.
+Walls are 18 pixels wide and join along their length without a seam; a pier fills its cell, so walls
+end flush against it from any side, and it juts out a little beyond them.
 """
 
 from pathlib import Path

@@ -1,5 +1,5 @@
 // One 20 x 20 wall piece. FAMILY 0 lies across the screen, 1 stands down it, 2 is the pier.
-// FREE_A, FREE_B: the near (left or top) and far (right or bottom) end is free and rounded.
+// FREE_A, FREE_B: whether the near (left or top) or the far (right or bottom) end is free and rounded.
 #version 3.7;
 #include "topdown.inc"
 #include "shapes.inc"

@@ -21,7 +21,7 @@ namespace fs = std::filesystem;
 
 using Edges = std::map<std::string, std::set<std::string>>;
 
-/// Who may include whom, beside itself. "main" is src/main.cpp.
+/// Who may include whom, besides itself. "main" is src/main.cpp.
 const Edges kMayInclude = {
     {"ports", {}},
     {"model", {"ports"}},
@@ -37,7 +37,8 @@ const Edges kMayInclude = {
     {"tools", {"kit", "content", "game", "render", "model", "ports", "platform"}},
 };
 
-/// Pieces of code that stand only in some places: paths of the repository, as they begin.
+/// Pieces of code that are allowed only in some places, given as the beginnings of paths in the
+/// repository.
 struct Reserved {
   std::vector<std::string> places;
   std::vector<std::string> pieces;
@@ -59,7 +60,7 @@ std::string FolderOf(const std::string& path) {
   return path.substr(4, path.find('/', 4) - 4);
 }
 
-/// The folder that the file's own include names; "" without a folder, nothing in any other line.
+/// The folder named by an include of our own files: "" if it names none, nothing on other lines.
 std::optional<std::string> IncludedFolder(const std::string& line) {
   static const std::regex kInclude(R"re(\s*#\s*include\s*"(([^"/]*)/)?.*)re");
   std::smatch match;
@@ -99,7 +100,7 @@ std::vector<std::string> Violations(const std::string& path, std::istream&& text
   return found;
 }
 
-/// Takes what a file includes off the edges that are still to be found.
+/// Removes what a file includes from the edges that are still to be found.
 void StrikeOut(const std::string& path, std::istream&& text, Edges& unused) {
   for (std::string line; std::getline(text, line);) {
     if (const auto included = IncludedFolder(line)) unused[FolderOf(path)].erase(*included);

@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Every committed file has a licence by REUSE.toml, every licence its text, and no text is without use."""
+"""Checks that REUSE.toml gives every committed file a licence, and that every licence's text is there and in use."""
 
 import pathlib
 import re
@@ -11,7 +11,7 @@ ROOT = pathlib.Path(__file__).resolve().parents[2]
 
 
 def pattern(path):
-    """A path of REUSE.toml as an expression: `**` crosses folders, `*` does not."""
+    """A path in REUSE.toml as a regular expression: `**` crosses folders, `*` does not."""
     parts = re.split(r"(\*\*|\*)", path)
     return re.compile("".join({"**": ".*", "*": "[^/]*"}.get(part, re.escape(part)) for part in parts) + r"\Z")
 

@@ -14,12 +14,12 @@ import numpy as np
 from PIL import Image
 
 BLACK, GREY_128, GREY_131 = (0, 0, 0), (128, 128, 128), (131, 131, 131)
-GROUND = 0.2  # of a moving user item's border that may be of one colour: it stands on no plain square
+GROUND = 0.2  # how much of a moving user item's border may be of one colour: it has no plain square behind it
 GREY_CLEARANCE = 6
 INTERFACE, FIELD = 18, 28  # least value of the brightest channel over a black key
 FRAMES = 45
 CONTRAST = 70  # of 441, from black to white
-RIM = 20  # a field's border that no contrast is measured on
+RIM = 20  # the width of a field's border, where contrast is not measured
 
 WALLS = ("brik", "brik_h", "brik_h_b", "brik_h_t", "brik_v", "brik_v_l", "brik_v_r")
 FLAT_ITEMS = ("banana", "red_banana", "blue_banana", "black_banana", "tnt")
@@ -62,7 +62,7 @@ GLYPH_ROWS = ("ABCDEFGHIJKLMNOPQRSTUVWXYZ", "abcdefghijklmnopqrstuvwxyz", f"0123
 FURTHER_ROWS = ("',;\"#$%&@<>[]{}^|~`´§", "ÄÖÜäöüß")
 FURTHER = {"fnt_cour_8": (26, 0), "fnt_cour_11": (26, 0), "fnt_sys_8": (26, 0)}
 FURTHER |= {"fnt_bl_16": (0, 3), "fnt_DM_16": (0, 3), "fnt_cour_16": (0, 3)}
-CUT_OFF = {"fnt_bl_16": "Zz"}  # letters that a sheet ends inside of: drawn whole behind the umlauts
+CUT_OFF = {"fnt_bl_16": "Zz"}  # letters that the sheet's edge cuts off: drawn whole after the umlauts
 
 # Snake pictures by the direction of travel on entering and on leaving the cell.
 WAYS = {"F": "forw", "B": "back", "L": "left", "R": "right"}
@@ -76,8 +76,8 @@ ENTERING = {"F": np.s_[-1, :], "B": np.s_[0, :], "L": np.s_[:, -1], "R": np.s_[:
 LEVEL_SEAMS = (("brik_v_l", "brik_v"), ("brik_v", "brik_v"), ("brik_v", "brik_v_r"), ("brik_v_l", "brik_v_r"))
 UPRIGHT_SEAMS = (("brik_h_t", "brik_h"), ("brik_h", "brik_h"), ("brik_h", "brik_h_b"), ("brik_h_t", "brik_h_b"))
 
-# Edge pixels may lie between the inner colours and the key by their shading; clean edges show at most
-# a fifth of them so, edges blended with the key a third and more.
+# Shading alone may put edge pixels between the inner colours and the key. On clean edges that is at most a fifth of
+# them, on edges blended with the key a third and more.
 FRINGE_SHARE = 0.28
 
 
@@ -104,7 +104,7 @@ class Checker:
             return np.asarray(image).astype(int)
 
     def keyed(self, path, size, key=BLACK, brightest=FIELD):
-        """A picture and its mask; faults when opaque pixels come near the key, or none is keyed or opaque."""
+        """A picture and its mask; a fault when opaque pixels come near the key, or none is keyed or opaque."""
         pixels = self.load(path, size)
         if pixels is None:
             return None, None
@@ -176,7 +176,7 @@ def check_animation(checker, folder, size, key):
     steps = [np.abs(a[0] - b[0]).mean() for a, b in zip(loaded, loaded[1:] + loaded[:1])]
     if steps[-1] > max(steps[:-1]):
         checker.fault(folder, f"jumps from the last frame to the first: {steps[-1]:.1f} > {max(steps[:-1]):.1f}")
-    # Beside a dark key an edge in shade looks like a fringe.
+    # Beside a dark key, an edge in shade looks like a fringe.
     fringe = 0 if key == BLACK else np.mean([fringe_share(pixels, mask, key) for pixels, mask in loaded])
     if fringe > FRINGE_SHARE:
         checker.fault(folder, f"fringe: {fringe:.0%} of the edge is mixed with the key")
@@ -184,7 +184,7 @@ def check_animation(checker, folder, size, key):
 
 
 def check_moving_user_item(checker, folder, frames):
-    """Keyed black first and grey later, so it fills its cell: with a picture, not with a plain ground."""
+    """Its key is first black and later grey, so it must fill its cell: with a picture, not with a plain ground."""
     for pixels, mask in frames:
         if not mask.all() or (pixels == GREY_131).all(axis=2).any():
             checker.fault(folder, "leaves pixels to a key")
@@ -194,7 +194,7 @@ def check_moving_user_item(checker, folder, frames):
 
 
 def check_walls(checker):
-    """Pieces join: equal masks along a seam, and no greater step over it than inside a brick run."""
+    """Pieces join: equal masks along a seam, and no greater step across it than inside a straight wall."""
     for seams, axis in ((LEVEL_SEAMS, 1), (UPRIGHT_SEAMS, 0)):
         for names in seams:
             (a, mask_a), (b, mask_b) = (checker.keyed(checker.gfx / f"{n}.png", (20, 20)) for n in names)
@@ -244,7 +244,7 @@ def check_model(checker, folder):
 
 
 def font_cells(name):
-    """(character, column, row) of every cell of a sheet that letters are drawn in whole."""
+    """(character, column, row) of every cell of a sheet whose letter is drawn whole."""
     cut_off = CUT_OFF.get(name, "")
     further = (FURTHER_ROWS[0], FURTHER_ROWS[1] + cut_off)
     for rows, (left, top) in ((GLYPH_ROWS, (0, 0)), (further, FURTHER[name])):

@@ -3,7 +3,7 @@
 
     check_sound.py [ASSETS]      one line per fault, exit status 1 when there is any
 
-Music is decoded by oggdec (vorbis-tools) or sox; without either it is left out, and a line says so.
+Music is decoded by oggdec (vorbis-tools) or sox; without either it is skipped, and a line says so.
 """
 
 import io
@@ -41,7 +41,7 @@ def parse_wave(data):
         channels, width, rate = file.getnchannels(), file.getsampwidth(), file.getframerate()
         if width != 2:
             raise wave.Error(f"{8 * width} bits per sample, not 16")
-        # A decoder that writes to a pipe cannot know the length beforehand and leaves a huge one.
+        # A decoder that writes to a pipe cannot know the length beforehand and states a huge one.
         raw = file.readframes(min(file.getnframes(), len(data)))
     raw = raw[: len(raw) // (2 * channels) * (2 * channels)]
     if not raw:
@@ -50,7 +50,7 @@ def parse_wave(data):
 
 
 def decoder():
-    """The command that decodes an OGG file to a wave file on its output; None when there is none."""
+    """The command that decodes an Ogg file into a wave file on its output; None when there is none."""
     if shutil.which("oggdec"):
         return ["oggdec", "-Q", "-o", "-"]
     if shutil.which("sox"):
@@ -66,7 +66,7 @@ def decode(command, path):
 
 
 def loudness(samples, rate):
-    """Mean power of both channels in decibels; what lies below 40 Hz, hardly heard, counts less."""
+    """Mean power of both channels in decibels; what lies below 40 Hz, and is hardly heard, counts less."""
     s = 1j * np.fft.rfftfreq(len(samples), 1 / rate) / 40
     spectrum = np.fft.rfft(samples, axis=0) * (s / (1 + s))[:, None]
     return decibels(2 * (np.abs(spectrum) ** 2).sum() / len(samples) ** 2)
@@ -94,7 +94,7 @@ def length_fault(samples, rate, limits):
 
 
 def silence_fault(samples, rate):
-    """A loop is silent nowhere, not over its seam either."""
+    """A loop must not be silent anywhere, not even across its seam."""
     size = int(SILENCE_SECONDS * rate)
     looped = np.concatenate([samples, samples[:size]])
     loud = np.flatnonzero(np.abs(looped).max(axis=1) > SILENCE)
@@ -113,7 +113,7 @@ def seam_fault(samples):
 
 
 def check_effect(path):
-    """Faults, and the loudest moment in decibels (None when it cannot be read)."""
+    """The faults, and the loudest moment in decibels (None when it cannot be read)."""
     try:
         channels, rate, samples = parse_wave(path.read_bytes())
     except (OSError, EOFError, wave.Error) as error:
@@ -124,7 +124,7 @@ def check_effect(path):
 
 
 def check_track(path, command):
-    """Faults, and the loudness in decibels (None when it cannot be read)."""
+    """The faults, and the loudness in decibels (None when it cannot be read)."""
     try:
         channels, rate, samples = parse_wave(decode(command, path))
     except (OSError, EOFError, wave.Error, subprocess.CalledProcessError) as error:
@@ -137,7 +137,7 @@ def check_track(path, command):
 
 
 def check_balance(effects, tracks):
-    """Tracks are alike in loudness, and the effects are heard over the loudest."""
+    """Tracks must be alike in loudness, and the effects must be heard over the loudest."""
     if not tracks:
         return
     loud, soft = max(tracks, key=tracks.get), min(tracks, key=tracks.get)

@@ -54,7 +54,7 @@ TEST(Anchors, OfStartsAndSpawnPointsLieHalfACellBefore) {
   EXPECT_EQ(AnchorOf(CellKind::kSpawnPoint, 1, 1), (Point{10, 10}));
 }
 
-/// What the value of a line with a key fills, as text.
+/// The fields that the value of a line with a key fills, as text.
 std::string ValueIn(const std::string& line) {
   for (const KeyDef& def : LevelKeys()) {
     if (!HasKey(def, line)) continue;

@@ -28,7 +28,7 @@ class LoadLevelTest : public testing::Test {
     stage.files.Put(kPath, text);
     LoadLevel(stage.context, kPath);
   }
-  /// The level's own words and numbers and the player, as text.
+  /// The level's own words and numbers, and the player, as text.
   std::string Properties() const {
     const LevelState& level = state.level;
     const SnakeRec& player = state.Snakes(1);
@@ -163,7 +163,7 @@ TEST_F(LoadLevelTest, LeavesItemsAbsentOnAFullField) {
 }
 
 TEST_F(LoadLevelTest, CountsSnakesByKeySwitchAndMap) {
-  // In the middle "/AIS=" of the command line, -1 without.
+  // In the middle, the "/AIS=" of the command line; -1 for none.
   using Row = std::tuple<std::string, int, int>;
   const Row rows[] = {{"S 1 2 3 4 5 .\nAIS=3\n", -1, 4},
                       {"S 1 .\nAIS=3\n", -1, 2},

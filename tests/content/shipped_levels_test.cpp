@@ -10,7 +10,7 @@
 namespace coilrun {
 namespace {
 
-/// The levels that ship start as they were drawn, and lead from the first to the end.
+/// The levels that ship start the way they were drawn, and lead from the first to the end.
 TEST(ShippedLevels, LoadAndLeadToTheEnd) {
   ContentStage stage;
   State& state = stage.state;

@@ -27,7 +27,7 @@ TEST(EatItems, EveryKindHasItsReach) {
   }
 }
 
-/// Lets a snake eat an item where it stands and tells what came of it, the item's fate last.
+/// Lets a snake eat an item where it stands and tells what came of that, the item's fate last.
 std::string Eat(Field& field, ItemKind kind, int snake = kPlayer) {
   field.Put(snake, kHead);
   const ItemRec& item = field.Item(kind, kHead);

@@ -51,7 +51,7 @@ class RecordingHost : public GameHost {
   void SaveSettings() override { calls.emplace_back("save"); }
 
   std::vector<std::string> calls;
-  std::vector<std::string> screen;  ///< the centred texts drawn last, each after its Y
+  std::vector<std::string> screen;  ///< the centred texts drawn last, each behind its Y
   std::vector<WaitOverlay> overlays;
   std::function<void()> onYield;
   bool pressesEnter = true;
@@ -62,7 +62,7 @@ class RecordingHost : public GameHost {
   State& state_;
 };
 
-/// A level made in code: the player at (100, 100), and no way to complete it.
+/// A level made in code, with the player at (100, 100) and no way to complete it.
 struct Field {
   Field() {
     state.level.reqYellow = 1000;
@@ -121,12 +121,12 @@ struct Field {
     return static_cast<int>(std::count_if(state.Walls.begin(), state.Walls.end(),
                                           [](const WallRec& wall) { return wall.Present; }));
   }
-  /// Finds a generator that rolls what `wanted` asks of it.
+  /// Finds a state of the generator that rolls what `wanted` asks for.
   void Rolls(const std::function<bool(Rnd)>& wanted) {
     for (std::uint64_t seed = 0; !wanted(state.Rnd); ++seed) state.Rnd.Reseed(seed);
   }
-  /// Plays a rule and tells in one line what it changed: facts that have another value now, then
-  /// what it asked the host for and what it wrote into the feed.
+  /// Plays a rule and tells in one line what it changed: facts that now have another value, then
+  /// what it asked of the host and what it wrote into the feed.
   std::string After(const std::function<void(Game&)>& rule) {
     const auto before = Facts();
     host.calls.clear();

@@ -11,7 +11,7 @@
 namespace coilrun {
 namespace {
 
-/// Spawn points by their states; one that is "gone" is not present.
+/// Adds spawn points in these states; one that is "gone" is not present.
 void AddSpawnPoints(State& state, const std::vector<std::string>& states) {
   for (const std::string& text : states) {
     const int number = ++state.numSpawnPoints;
@@ -19,7 +19,7 @@ void AddSpawnPoints(State& state, const std::vector<std::string>& states) {
   }
 }
 
-/// Walls on a raster of 20 pixels over the whole field, but for those left out.
+/// Puts walls on a grid of 20 pixels over the whole field, but for the one left out.
 void FillWithWalls(State& state, int leaveOut) {
   for (int row = 1; row <= 22; ++row) {
     for (int column = 1; column <= 30; ++column) {

@@ -11,8 +11,8 @@
 namespace coilrun {
 namespace {
 
-/// Presses (F, B, L, R) and steps (.) of a snake that goes left, or stands; then where it went,
-/// step by step, what it goes on to and what waits.
+/// Plays presses (F, B, L, R) and steps (.) of a snake that goes left or stands still; returns
+/// where it went, step by step, where it goes next and what waits.
 std::string Steer(Field& field, std::string_view line) {
   State& state = field.state;
   std::string way;

@@ -15,7 +15,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-/// Every effect is its file's first byte.
+/// Identifies every effect by its file's first byte.
 class LoudAudio final : public AudioOut {
  public:
   bool Open() override { return true; }
@@ -72,7 +72,7 @@ struct Jukebox {
     for (const char* const name : {"a", "b", "x"}) files.Put(Path(name), name);
   }
   static std::string Path(const std::string& name) { return ".\\music\\" + name + ".ogg"; }
-  /// What a frame of a level with this music does.
+  /// What happens in a frame of a level with this music.
   std::vector<std::string> Frame(const std::string& name) {
     state.level.MusicFile = name.empty() ? "" : Path(name);
     out.calls.clear();

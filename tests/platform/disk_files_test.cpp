@@ -195,7 +195,7 @@ TEST_F(DiskFilesTest, AnUnfinishedFileIsNoFileAndGoesWithItsName) {
   }
 }
 
-/// While it lives, no file of this process can grow beyond a few bytes, as on a full disk.
+/// As long as it lives, no file of this process can grow beyond a few bytes, as on a full disk.
 class NearlyFullDisk {
  public:
   explicit NearlyFullDisk(rlim_t size) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
@@ -291,7 +291,7 @@ TEST_F(DiskFilesTest, DeletingManyFilesAtOnceLooksIntoEachFolderOnce) {
   Put(outside_ / "a.bmp");
   const std::clock_t start = std::clock();
   EXPECT_EQ(ProgramOnly().DeleteAll(paths), kFiles);
-  // One look a missing name takes ten seconds and more.
+  // Reading the folder for each missing name would take ten seconds and more.
   EXPECT_LT((std::clock() - start) / CLOCKS_PER_SEC, 3);
   EXPECT_THAT(AllBelow(program_), ElementsAre("Gfx"));
   EXPECT_TRUE(fs::exists(outside_ / "a.bmp"));

@@ -118,7 +118,7 @@ TEST_F(HeadlessPlatformTest, TextsAreMeasuredAndRenderedInTheirFaces) {
   const TextMask umlaut = text.Render(courier, "\xE4");
   const TextMask& plain = text.Render(courier, "a");
   EXPECT_EQ(umlaut.height, plain.height);
-  EXPECT_NEAR(plain.height, 15, 2);  // 10 points are 13 pixels, and a line is a little more
+  EXPECT_NEAR(plain.height, 15, 2);  // 10 points are 13 pixels, and a line is a little taller
   EXPECT_EQ(plain.coverage.size(), static_cast<std::size_t>(plain.width * plain.height));
   EXPECT_EQ(*std::max_element(plain.coverage.begin(), plain.coverage.end()), 255);
   EXPECT_GT(std::accumulate(umlaut.coverage.begin(), umlaut.coverage.end(), 0),

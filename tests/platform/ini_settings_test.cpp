@@ -140,7 +140,7 @@ TEST_F(IniSettingsTest, InstancesThatShareAFileKeepEachOthersChanges) {
   EXPECT_FALSE(first.Refresh()) << "its own change is no news";
   second.Set("Options", "Name", "B");
   EXPECT_TRUE(second.Save());
-  // As the game saves: every value, most of them as they were read.
+  // The way the game saves: every value, most of them as they were read.
   for (const auto& [key, value] : {std::pair{"Volume", "2"}, {"Name", "A"}, {"FPS", "False"}})
     first.Set("Options", key, value);
   EXPECT_TRUE(first.Save());
@@ -151,7 +151,8 @@ TEST_F(IniSettingsTest, InstancesThatShareAFileKeepEachOthersChanges) {
 }
 
 TEST_F(IniSettingsTest, AValueThatIsOnlySaidInOtherWordsGivesWayToAnotherInstances) {
-  // What is stored at first, what the other instance stores, what this one sets, what is found.
+  // What is stored at first, what the other instance stores, what this one sets, what is found
+  // then.
   using Row = std::tuple<const char*, const char*, const char*, const char*>;
   const auto rows = {Row{"", "77", "30", "77"},           Row{"V=030\n", "77", "30", "77"},
                      Row{"V=30\n", "77", "30", "77"},     Row{"V=030\n", "77", "55", "55"},
@@ -162,7 +163,7 @@ TEST_F(IniSettingsTest, AValueThatIsOnlySaidInOtherWordsGivesWayToAnotherInstanc
     IniSettings settings = Open();
     settings.TakeAsRead("Options", "V", "30");
     if (theirs) Put(file_, std::string("[Options]\nV=") + theirs + "\n");
-    // The second time nothing is left to change.
+    // The second time, nothing is left to change.
     for (int time = 0; time < 2; ++time) {
       settings.Set("Options", "V", own);
       EXPECT_TRUE(settings.Save());
@@ -247,7 +248,7 @@ TEST_F(IniSettingsTest, AStoreThatCannotBeWrittenIsToldOnceAndStaysWhole) {
 constexpr int kRounds = 220;
 constexpr int kKeys = 200;
 
-/// Saves stores without end; each holds one number, in all its keys. Tells when it begins.
+/// Saves stores without end, each with one number in all its keys. Tells when it begins.
 [[noreturn]] void SaveForever(IniSettings settings, int number, int tell) {
   if (write(tell, "!", 1) != 1) _exit(1);
   while (true) {
@@ -258,7 +259,7 @@ constexpr int kKeys = 200;
   }
 }
 
-/// The one number of the store; -1 when its keys differ or one is missing.
+/// The number in all keys of the store; -1 when they differ or one is missing.
 int NumberIn(const IniSettings& settings) {
   const auto first = settings.Get("Numbers", "0");
   for (int key = 1; key < kKeys; ++key)

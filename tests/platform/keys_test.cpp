@@ -13,8 +13,8 @@ namespace {
 
 constexpr int kCode = 203;
 
-/// Plays a line of: d and u the keyboard's key down and up, p and r the same key of a controller,
-/// L everything let go, . a poll. Gives what each poll saw: 1 down, 0 up.
+/// Plays a line of: d and u, the keyboard's key down and up; p and r, the same key on a controller;
+/// L, everything let go; ., a poll. Returns what each poll saw: 1 down, 0 up.
 std::string Play(std::string_view line) {
   KeyQueue queue;
   KeySnapshot keys{};
@@ -70,7 +70,7 @@ TEST(Stick, LeansToOneDirectionAtATime) {
   using enum PadDirection;
   const std::tuple<int, int, std::optional<PadDirection>> steps[] = {
       {0, 0, std::nullopt},      {15'000, 0, std::nullopt},
-      {17'000, 9'000, kRight},   {12'000, 0, kRight},  // let go nearer to the middle only
+      {17'000, 9'000, kRight},   {12'000, 0, kRight},  // let go only nearer to the middle
       {20'000, 22'000, kRight},                        // nearly diagonal: keeps its direction
       {20'000, 26'000, kDown},   {-32'768, -32'768, kUp},
       {-32'768, -20'000, kLeft}, {9'000, -9'000, std::nullopt},

@@ -10,10 +10,10 @@ namespace {
 
 using ::testing::ElementsAre;
 
-/// An archive in a program folder of its own.
+/// An archive in its own program folder.
 class RarArchiveTest : public ::testing::Test {
  protected:
-  /// Unpacks all into the program folder, as the game does; notes "NAME" or "NAME failed".
+  /// Unpacks everything into the program folder, as the game does; notes "NAME" or "NAME failed".
   std::vector<std::string> UnpackAll(const Bytes& archive, const std::string& password = "") {
     Put(folders_.Program() / "gfx.snr", Text(archive));
     std::vector<std::string> notes;

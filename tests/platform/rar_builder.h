@@ -10,11 +10,11 @@
 
 namespace coilrun {
 
-/// What made and committed archives are locked with.
+/// The password of built and committed archives.
 inline constexpr const char* kPassword = "sn80463";
 
-// Committed archives of all kinds, with the same three entries: of the old and the new generation;
-// locked not at all, their contents, or all.
+// Committed archives of all kinds with the same three entries: of the old and the new generation;
+// with nothing encrypted, the contents, or everything.
 inline constexpr const char* kArchives = COILRUN_SOURCE_DIR "/fuzz/corpus/rar";
 inline const std::string kArchiveKinds[] = {"old_open", "old_contents", "old_headers",
                                             "new_open", "new_contents", "new_headers"};
@@ -22,8 +22,8 @@ inline Bytes CommittedArchive(const std::string& name) {
   return ToBytes(Contents(std::filesystem::path(kArchives) / (name + ".rar")));
 }
 
-/// One entry of an archive to be made. `packed` is set for compressed contents; `blake` takes the
-/// place of the CRC.
+/// One entry of an archive to be built. `packed` is set for compressed contents; `blake` replaces
+/// the CRC.
 struct MadeEntry {
   std::string name{};
   std::string contents{};
@@ -35,7 +35,7 @@ struct MadeEntry {
   std::optional<std::uint64_t> claimedSize{};
 };
 
-/// An archive of generation 5 as its program would have written it.
+/// Builds an archive of generation 5 the way its own program would write it.
 struct MadeArchive {
   std::vector<MadeEntry> entries{};
   bool locked = false;

@@ -14,8 +14,8 @@ std::string Hex(std::span<const std::uint8_t> bytes) {
   return text;
 }
 
-// The values expected here were computed by another program, from descriptions of the methods. That
-// plain passwords give the right keys is told by the committed archives, which are read with them.
+// The values expected here were computed by another program, from descriptions of the methods. The
+// committed archives, which are read with plain passwords, prove that those give the right keys.
 
 TEST(RarKeys, OfGenerationFourTakeAnyLetterAndNoSalt) {
   const Rar4Keys keys = DeriveRar4Keys("k\xC3\xA4se\xF0\x9F\x90\x8D", std::nullopt).value();

@@ -23,7 +23,7 @@ std::string TextOf(const RarContents& contents) {
 const std::vector<std::string> kNames = {"gfx", "gfx/stored", "packed"};
 const std::vector<std::string> kContents = {"", "seventeen letters", "abcdefghijklmnopqmnopq"};
 
-/// What a damaged archive still gives is what was put in, under the name it was put in with.
+/// What can still be read from a damaged archive is what was put in, under the same name.
 void ExpectNothingWrong(const Bytes& damaged, const std::string& how) {
   RarReader reader(damaged, kPassword);
   for (std::size_t i = 0; i < reader.Entries().size(); ++i) {
@@ -39,7 +39,8 @@ class RarKinds : public ::testing::TestWithParam<std::string> {
  protected:
   const bool new_ = GetParam().starts_with("new");
   const Bytes whole_ = CommittedArchive(GetParam());
-  /// Keys of the old generation cost tens of milliseconds each: its locked archives are sampled.
+  /// Keys of the old generation cost tens of milliseconds each, so its encrypted archives are only
+  /// sampled.
   const std::size_t stride_ = new_ || GetParam() == "old_open" ? 1 : 23;
 };
 
@@ -139,7 +140,7 @@ Digest256 DigestOf(std::string_view hex) {
 }
 
 TEST(RarReader, ChecksTheOtherSumOfGenerationFive) {
-  // The sums of so many letters "a", computed by another program.
+  // The sums of this many letters "a", computed by another program.
   const std::pair<std::size_t, const char*> cases[] = {
       {0, "dd0e891776933f43c7d032b08a917e25741f8aa9a12c12e1cac8801500f2ca4f"},
       {512, "e5c78b5cd735530b80a1377388c29164a54192ed3b1a745bce45488d1188e9bc"},
@@ -219,7 +220,7 @@ TEST(RarReader, RefusesContentsThatUnpackToAnotherSize) {
   }
 }
 
-/// Old headers hold numbers at these distances in front of the entry's name.
+/// Old headers hold numbers at these distances before the entry's name.
 enum OldField : std::size_t {
   kFlags = 29,
   kSize = 21,

@@ -14,7 +14,7 @@ using ::testing::HasSubstr;
 using ::testing::Not;
 using ::testing::SizeIs;
 
-// That others and we can read what is written is told by the tests of the program that packs.
+// The tests of coilpack prove that other programs and we can read what is written.
 
 TEST(RarWriter, HidesContentsAlikeButNoTwoEntriesWithTheSameVector) {
   std::vector<RarSource> sources = {{.name = "gfx", .folder = true, .contents = {}},

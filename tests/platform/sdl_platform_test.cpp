@@ -8,7 +8,7 @@
 namespace coilrun {
 namespace {
 
-/// SDL with drivers that draw and play into nothing, so that the window's own code runs anywhere.
+/// SDL with drivers that show and play nothing, so that the window's own code runs anywhere.
 class SdlPlatformTest : public testing::Test {
  protected:
   PlatformResult<WindowPlatform> Make(const char* video, const char* audio) {

@@ -34,7 +34,7 @@ inline std::string Text(std::span<const std::uint8_t> bytes) {
   return {bytes.begin(), bytes.end()};
 }
 
-/// A wave file of silence: 22050 frames a second, stereo, 16 bits.
+/// A wave file of silence: 22050 frames per second, stereo, 16 bits.
 inline Bytes WaveOf(std::uint32_t frames) {
   using namespace std::string_view_literals;
   Bytes wave = ToBytes(
@@ -48,8 +48,8 @@ inline Bytes WaveOf(std::uint32_t frames) {
   return wave;
 }
 
-/// Makes a folder, and those in it, one that this process cannot write to, while the object lives.
-/// As root, whom no permission stops, the process becomes nobody meanwhile.
+/// Makes a folder, and those in it, read-only for this process as long as the object lives. Since
+/// no permission stops root, a root process becomes nobody meanwhile.
 class ReadOnlyFolder {
  public:
   explicit ReadOnlyFolder(std::filesystem::path folder) : folder_(std::move(folder)) {
@@ -76,7 +76,7 @@ class ReadOnlyFolder {
   bool becameNobody_ = false;
 };
 
-/// A folder of the test's own, with room for both roots and a place outside of them.
+/// A folder for one test, with room for both roots and a place outside them.
 class TestFolders {
  public:
   TestFolders() {

@@ -14,7 +14,7 @@
 namespace coilrun {
 namespace {
 
-/// Where a running game's pictures go.
+/// A running game, and where its pictures go.
 struct Running {
   explicit Running(const Folders& folders) : places(folders), files(places.MakeFiles()) {
     EXPECT_TRUE(files.Write(".\\gfx\\a.bmp", {}));

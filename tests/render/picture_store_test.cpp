@@ -79,7 +79,7 @@ TEST_F(PictureStoreTest, TellsAMissingPictureOnceAndGoesOn) {
 }
 
 TEST(PictureLoader, AsksOnlyForMissingFilesOfTheStart) {
-  // Answers how many boxes were shown, whether the player gave up, and the last console line.
+  // Returns how many boxes were shown, whether the player gave up, and the last console line.
   const auto load = [](BoxAnswer answer, bool ready, LoadFlags flags, bool damaged) {
     StoreStage stage;
     stage.box.answer = answer;

@@ -52,7 +52,7 @@ constexpr Pixel kBody = 0xC20000;
 constexpr Pixel kTail = 0xC30000;
 constexpr Pixel kMarker = 0xC40000;
 
-/// Every picture has a colour of its own; walls count from 0xF1.
+/// Every picture has its own colour; walls count from 0xF1.
 struct PlayFieldTest : testing::Test, Stage {
   PlayFieldTest() {
     Put("bkg_standart", 640, 480, kBare);
@@ -93,9 +93,10 @@ TEST_F(PlayFieldTest, SnakesAreHeadBodyAndTail) {
   snake.Y = 100;
   snake.Dir = Dir::kLeft;
   snake.Length = 4;
-  for (SegRec& seg : snake.Seg) seg = {220, 100, Dir::kLeft};  // not of the body, but for 1 to 3
+  for (SegRec& seg : snake.Seg)
+    seg = {220, 100, Dir::kLeft};  // not part of the body, except 1 to 3
   snake.Seg(1) = {120, 100, Dir::kLeft};
-  snake.Seg(2) = {140, 100, Dir::kFL};  // a corner, which this model has no picture of
+  snake.Seg(2) = {140, 100, Dir::kFL};  // a corner, for which this model has no picture
   snake.Seg(3) = {160, 100, Dir::kLeft};
   snake.Tail = {180, 100, Dir::kLeft};
   const std::vector<int> columns = {105, 125, 145, 165, 185, 225};

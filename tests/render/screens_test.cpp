@@ -16,7 +16,7 @@ using Texts = std::vector<std::string>;
 
 constexpr Pixel kWhite = Color{250, 250, 250}.ToPixel();
 
-/// A game in its middle: counters, names, a level.
+/// A game under way: counters, names, a level.
 struct ScreensTest : testing::Test, Stage {
   ScreensTest() {
     SnakeRec& player = state.Snakes(1);
@@ -36,7 +36,7 @@ struct ScreensTest : testing::Test, Stage {
     state.level.ElapsedSecs = 15;
   }
   void Deathmatch() { state.mode.GameMode = GameMode::kDeathmatch; }
-  /// What one step of drawing writes.
+  /// The texts that one step of drawing writes.
   Texts TextsOf(void (Overlays::*draw)()) {
     renderer.FillBack({});
     (renderer.Overlay().*draw)();
@@ -109,7 +109,7 @@ TEST_F(ScreensTest, PausePictureIsCentredByTheWidthOfItsFile) {
   Put("pause", 101, 44, kWhite);
   renderer.LoadStandardPictures();
   renderer.Overlay().DrawPausePicture();
-  // From 320 - 50.5 on, and stretched to 174 x 44.
+  // Starts at 320 - 50.5, stretched to 174 x 44.
   EXPECT_THAT(Row(210, {269, 270, 443, 444}), ElementsAre(0, kWhite, kWhite, 0));
   EXPECT_EQ(At(443, 253), kWhite);
 }
@@ -180,7 +180,7 @@ TEST_F(ScreensTest, MainPageShowsTheLitButtonOverItsNeighbours) {
   menus.DrawMainPage();
   menus.DrawTicker();
 
-  // The lit button reaches into the next one's place; the banana has 24 rows.
+  // The lit button overlaps the next one; the banana has 24 rows.
   EXPECT_THAT(At({{400, 229}, {400, 230}, {400, 259}}), ElementsAre(kNormal, kWhite, kWhite));
   EXPECT_THAT(At({{285, 235}, {285, 258}, {285, 259}}), ElementsAre(kBanana, kBanana, 0));
   EXPECT_THAT(Drawn(),
@@ -221,7 +221,7 @@ TEST_F(ScreensTest, IntroPanelShowsProgressOnThePrimaryOnly) {
   EXPECT_EQ(At(320, 280), 0U);
 
   renderer.FlipBuffers();
-  // The caption, and the bar: half of it is done.
+  // The caption, and the bar, which is half full.
   EXPECT_THAT(At({{123, 254}, {319, 280}, {320, 280}}), ElementsAre(0xF0ECDC, 0x40A048, 0x222A28));
 }
 

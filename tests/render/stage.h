@@ -9,7 +9,7 @@
 
 namespace coilrun {
 
-/// A bitmap file with 32 bits a pixel, stored from the top down.
+/// A bitmap file with 32 bits per pixel, stored top-down.
 inline Bytes EncodeBmp(const Bitmap& bitmap) {
   constexpr int kOnePlaneOf32Bits = 1 | 32 << 16;
   Bytes file = {'B', 'M'};
@@ -24,7 +24,7 @@ inline Bytes EncodeBmp(const Bitmap& bitmap) {
   return file;
 }
 
-/// A bitmap whose pixels a function of x and y gives.
+/// A bitmap whose pixels come from a function of x and y.
 template <typename PixelAt>
 Bitmap MakeBitmap(int width, int height, PixelAt pixelAt) {
   Bitmap bitmap{width, height, {}};

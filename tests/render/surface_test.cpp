@@ -10,7 +10,7 @@ namespace {
 
 using ::testing::ElementsAre;
 
-/// A blit against drawing pixel by pixel.
+/// Compares a blit with drawing pixel by pixel.
 void ExpectSameAsSlow(const Bitmap& bitmap, KeyMode key, const Rect& from, Point to, bool keyed) {
   constexpr Pixel kBelow = 0x123456;
   Surface surface;
@@ -33,7 +33,7 @@ void ExpectSameAsSlow(const Bitmap& bitmap, KeyMode key, const Rect& from, Point
       << from.left << "," << from.top << " keyed " << keyed;
 }
 
-/// Pixels that are opaque at random, and besides one long run in every row.
+/// Pixels that are opaque at random, with one long run in every row.
 Bitmap RandomMask(Point size, Pixel transparent, Rnd& rnd) {
   return MakeBitmap(size.x, size.y, [&](int x, int y) {
     const bool longRun = x >= y && x < 2 * y;

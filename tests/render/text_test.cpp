@@ -101,7 +101,7 @@ struct TextTest : testing::Test, Stage {
     renderer.LoadStandardPictures();
     renderer.FillBack({});
   }
-  /// First column of each stretch of ink in row `y`.
+  /// The first column of each stretch of ink in row `y`.
   std::vector<int> InkStarts(int y) {
     std::vector<int> starts;
     for (int x = 0; x < kScreenWidth; ++x) {

@@ -8,8 +8,8 @@
 namespace coilrun {
 namespace {
 
-/// A field drawn in places 20 pixels apart, the first at (10, 10): '@' the head of snake 2, 'b' to
-/// 'm' its body, '#' a wall, 'o' a banana, 'x' cells of a body that stands still.
+/// A field drawn with places 20 pixels apart, the first at (10, 10): '@' is the head of snake 2,
+/// 'b' to 'm' its body, '#' a wall, 'o' a banana, 'x' the cells of a body that stands still.
 struct Drawing {
   Drawing(const std::vector<std::string>& rows, Dir heading) {
     field.Put(1, {610, 450}, Dir::kNone);

@@ -66,7 +66,7 @@ std::set<std::string> Without(std::set<std::string> files, const std::set<std::s
   return files;
 }
 
-/// A program folder with two model packs only, and one settings store for all runs.
+/// A program folder with only two model packs, and one settings store for all runs.
 class ContentTest : public ::testing::Test {
  protected:
   ContentTest() {
@@ -86,7 +86,7 @@ class ContentTest : public ::testing::Test {
   }
   /// A run that ends without any clean-up, as if it had been killed.
   GameRun PlayAndKill() const { return Play(ScriptText().At(500, "state").At(500, "end")); }
-  /// A run that is left by the last entry of the main menu.
+  /// A run that ends by the last entry of the main menu.
   GameRun PlayAndExit(const std::vector<std::string>& arguments = {}) const {
     auto script = ScriptText().At(500, "state");
     for (const int at : {600, 700, 800}) script.At(at, "tap 208");
@@ -221,7 +221,7 @@ Bytes StripedBitmap() {
   return file;
 }
 
-/// The pixels of a row of a picture file, from `x` on and five apart.
+/// Pixels in a row of a picture file, from `x` on and five apart.
 std::array<Colour, 3> PixelsOf(const fs::path& file, int x, int y) {
   png_image image{};
   image.version = PNG_IMAGE_VERSION;
@@ -265,7 +265,8 @@ TEST_F(ContentTest, ALevelBringsUserItemsThatReloadWithTheirOwnKey) {
     EXPECT_EQ(still[1], kGrey) << shot;
     EXPECT_NE(still[2], kNearBlack) << shot;
   }
-  // Preloading keys it black, as all pictures; drawing asks for the grey key of animations.
+  // Preloading makes black its key, as for all pictures; drawing asks for the grey key of
+  // animations.
   const auto preloaded = PixelsOf(folder_.Home() / "first.png", 142, 185);
   EXPECT_EQ(preloaded[1], kGrey);
   EXPECT_NE(preloaded[2], kNearBlack);

@@ -16,8 +16,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// What a program folder holds before anybody has played in it, but for the names that are drawn
-/// for computer snakes.
+/// What a program folder holds before anybody has played in it, except for the list of names for
+/// computer snakes.
 constexpr std::array kShipped = {"gfx.snr", "snd.snr",      "models",   "music",
                                  "fonts",   "defaults.ini", "intro.bmp"};
 
@@ -133,7 +133,7 @@ void ProgramFolder::MakeReadOnly() {
     fs::permissions(entry, kWriting, fs::perm_options::remove);
   }
   fs::permissions(Data(), kWriting, fs::perm_options::remove);
-  // Nothing is read-only for root, so the program runs as nobody then.
+  // Nothing is read-only for root, so the program then runs as nobody.
   const bool isRoot = geteuid() == 0;
   const std::string asNobody = "setpriv --reuid=65534 --regid=65534 --clear-groups ";
   program_ = (isRoot ? asNobody : "") + InQuotes(program.string());

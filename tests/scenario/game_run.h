@@ -11,11 +11,11 @@
 
 namespace coilrun {
 
-/// A script under construction; its lines may be added in any order of time.
+/// A script under construction; its lines may be added in any order.
 class ScriptText {
  public:
   ScriptText& At(int millis, std::string command);
-  /// Looks at the state again and again, from `first` to `last`.
+  /// Looks at the state every `millis`, from `first` to `last`.
   ScriptText& LookEvery(int millis, int first, int last);
   std::string Text() const;
 
@@ -32,12 +32,12 @@ struct GameRun {
   std::vector<nlohmann::json> states;
 };
 
-/// "Run until": the first state that was looked at in which this holds.
+/// The first of the states that were looked at in which this holds.
 std::optional<nlohmann::json> FirstWhere(const GameRun& run,
                                          const std::function<bool(const nlohmann::json&)>& holds);
 
-/// A copy of the built program folder with the levels of these tests, in a temporary folder that
-/// goes with it.
+/// A copy of the built program folder with the levels of these tests, in a temporary folder that is
+/// removed with it.
 class ProgramFolder {
  public:
   ProgramFolder();
@@ -50,7 +50,7 @@ class ProgramFolder {
   /// Where the program runs, and where a script's pictures land.
   const std::filesystem::path& Home() const { return home_; }
 
-  /// Runs the built program headless with a script, as a classic game. It is stopped after two
+  /// Runs the built program headless with a script, as a classic game. It is killed after two
   /// minutes.
   GameRun Play(const std::string& script, std::vector<std::string> arguments = {}) const;
   /// The same with the further settings that ship.
@@ -59,12 +59,12 @@ class ProgramFolder {
   /// Runs the built program with these arguments only.
   GameRun Run(const std::vector<std::string>& arguments) const;
 
-  /// From now on the program may write beside the program folder, not in it.
+  /// From now on, the program may write beside the program folder, but not in it.
   void MakeReadOnly();
 
  private:
   std::filesystem::path home_;
-  /// How the program is started.
+  /// The command that starts the program.
   std::string program_;
 };
 

@@ -25,7 +25,7 @@ constexpr const char* kExample = R"(
 2200 end
 )";
 
-/// Compares with the committed trace; what differs is told field by field.
+/// Compares with the committed trace and reports differences field by field.
 void ExpectCommittedTrace(const GameRun& run, const std::string& name) {
   const std::string file = COILRUN_SOURCE_DIR "/tests/scenario/expected/" + name;
   if (std::getenv("COILRUN_UPDATE_GOLDEN") != nullptr) {

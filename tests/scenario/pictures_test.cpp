@@ -18,7 +18,7 @@ struct Image {
   std::vector<std::uint32_t> pixels;
 };
 
-/// An empty image when the file is none.
+/// Returns an empty image when the file is not a picture.
 Image ReadPng(const fs::path& file) {
   png_image png{};
   png.version = PNG_IMAGE_VERSION;
@@ -30,7 +30,7 @@ Image ReadPng(const fs::path& file) {
   return image;
 }
 
-/// Compares with the committed picture of the same name; COILRUN_UPDATE_GOLDEN commits this one.
+/// Compares with the committed picture of the same name, which COILRUN_UPDATE_GOLDEN replaces.
 void ExpectCommittedPicture(const fs::path& seen) {
   const fs::path committed =
       fs::path(COILRUN_SOURCE_DIR "/tests/scenario/expected") / seen.filename();

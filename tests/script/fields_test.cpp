@@ -34,7 +34,7 @@ bool CountsFromZero(std::string_view array) {
   return array == "Seg" || array == "CenterLines" || array == "iWait";
 }
 
-/// "/Snakes/0/Seg/3/X" as scripts write it: "Snakes.1.Seg.3.X".
+/// Turns "/Snakes/0/Seg/3/X" into what scripts write: "Snakes.1.Seg.3.X".
 std::string FieldName(const std::string& pointer) {
   std::string name;
   std::string array;
@@ -59,7 +59,7 @@ bool IsCount(std::string_view name) {
          name == "More.Players";
 }
 
-/// Another value of the same field.
+/// Another value for the same field.
 json Changed(std::string_view name, const json& value) {
   if (value.is_boolean()) return !value.get<bool>();
   if (name == "Music.Volume") return -300;
@@ -116,7 +116,7 @@ TEST(Fields, WhatIsSetIsTracedAndNothingElseChanges) {
 TEST(Fields, RefusesWhatDoesNotFitAndLeavesTheStateAlone) {
   using Texts = std::vector<std::string>;
   const std::vector<std::pair<Texts, Texts>> cases = {
-      // Names that lead nowhere, not far enough or too far.
+      // Names that lead nowhere, too far or not far enough.
       {{"", ".", "Nonsense", "Snakes", "Snakes.1", "Snakes.1.", "Snakes.1.Nonsense"}, {"1"}},
       {{"godmode", "GodMode.", "GodMode.1", "Walls.3.Present"}, {"true"}},
       {{"Snakes.0.X", "Snakes.17.X", "Snakes.-1.X", "Snakes.99999999999.X"}, {"1"}},

@@ -37,11 +37,11 @@ TEST(ScriptPlayer, HoldsKeysAsLongAsTheScriptSays) {
     std::vector<std::pair<int, bool>> polls;  ///< when, and whether the key is held then
   } const cases[] = {
       {"", 28, {{0, false}}},
-      // A tap lasts 30 milliseconds, and is seen even when it falls between two polls.
+      // A tap lasts 30 milliseconds, and is seen even if it falls between two polls.
       {"10 tap 28", 28, {{9, false}, {10, true}, {39, true}, {40, false}}},
       {"10 tap 28", 28, {{9, false}, {100, true}, {100, false}}},
       {"0 type aa", 30, {{0, true}, {29, true}, {30, false}, {59, false}, {60, true}, {90, false}}},
-      // A poll takes one change of each key.
+      // A poll takes one change per key.
       {"0 down 30\n0 up 30\n0 down 30\n0 down 30",
        30,
        {{0, true}, {0, false}, {0, true}, {0, true}}},

@@ -14,7 +14,7 @@ namespace {
 using ::testing::HasSubstr;
 using ::testing::StartsWith;
 
-/// "MICROSECONDS verb code name=value" of every step, then of every answer.
+/// "MICROSECONDS verb code name=value" for every step, then for every answer.
 std::string Listing(const Script& script) {
   static const std::vector<std::string> kWords = {"down", "up",  "lost",  "gained", "state",
                                                   "shot", "set", "close", "end"};

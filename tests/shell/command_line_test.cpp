@@ -44,7 +44,7 @@ struct Switches {
     CommandLine commands(state, files, box, settings);
     for (const std::string& arg : SplitSwitches(commandLine)) commands.SetCommand(arg);
   }
-  /// What is not as without switches.
+  /// What differs from a start without switches.
   std::string Mode() const {
     const ModeState& mode = state.mode;
     std::ostringstream text;

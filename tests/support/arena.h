@@ -10,7 +10,7 @@ namespace coilrun {
 /// What a generated level holds.
 struct ArenaPlan {
   bool openEdges = false;
-  bool rim = false;  ///< walls all along the edge of the field
+  bool rim = false;  ///< walls all around the field
   int segments = 0;  ///< rows of walls inside
   int rivals = 8;
   int yellow = 4;
@@ -52,7 +52,8 @@ class Arena {
       Cell(column, 0) = Cell(column, kRows - 1) = '-';
     for (int row = 0; row < kRows; ++row) Cell(0, row) = Cell(kColumns - 1, row) = '|';
   }
-  /// In the order in which a level lists them: the one read last says how many there are.
+  /// Puts starts in the order in which a level lists them: the one read last says how many there
+  /// are.
   void PutStarts() {
     constexpr std::string_view kCodes = "S123456789ABCDEF";
     for (int snake = 0; snake <= plan_.rivals; ++snake) {

@@ -8,7 +8,7 @@
 
 namespace coilrun {
 
-/// A program without a machine: all that loading content needs.
+/// A program without a machine: everything that loading content needs.
 struct ContentStage {
   State state;
   FakeFiles files;

@@ -11,7 +11,7 @@
 
 namespace coilrun {
 
-/// Remembers what the loader asked for. Pictures in `pictures` can be loaded, and are held then.
+/// Remembers what the loader asked for. Pictures in `pictures` can be loaded, and are then held.
 class FakeLoaderHost final : public LoaderHost {
  public:
   explicit FakeLoaderHost(State& state) : state_(state) {}

@@ -16,7 +16,7 @@
 
 namespace coilrun {
 
-/// What a snake went through.
+/// How a snake has fared.
 struct Career {
   int byWall = 0;
   int byEdge = 0;
@@ -119,7 +119,7 @@ class Match final : private GameHost, private TimerHandlers {
       ++(owner == snake ? career.byItself : career.byOthers);
     }
   }
-  /// Whose body lies at `head`; 0 for nobody's.
+  /// Whose body lies at `head`; 0 if nobody's does.
   int OwnerAt(Point head) {
     for (int s = 1; s <= SnakesInPlay(state()); ++s) {
       for (const SegRec& cell : Slots(state().Snakes(s).Seg, 2, state().Snakes(s).Length)) {

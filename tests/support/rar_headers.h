@@ -22,7 +22,7 @@ inline void PutNumber(Bytes& bytes, std::size_t at, std::uint32_t value, int siz
   for (int i = 0; i < size; ++i) bytes[at++] = static_cast<std::uint8_t>(value >> 8 * i);
 }
 
-/// Puts the checksums of plain headers right, so that changed ones are looked into.
+/// Corrects the checksums of plain headers, so that changed headers are read at all.
 inline void RepairHeaders5(Bytes& bytes) {
   for (std::size_t at = 8; at + 4 < bytes.size();) {
     ByteReader reader(bytes);

@@ -18,14 +18,14 @@ using ::testing::StartsWith;
 const std::string kLevel = COILRUN_BUILD_DIR "/tools/coillevel";
 const std::string kShipped = COILRUN_BUILD_DIR "/game/lvl/lvl9.dat";
 
-/// 22 empty rows, and these lines below.
+/// 22 empty rows with these lines below.
 std::string LevelWith(const std::string& keys) {
   std::string text;
   for (int row = 0; row < 22; ++row) text += "_ _ _ ;\r\n";
   return text + keys;
 }
 
-/// The pixels of a 640 x 480 picture as RGB; empty when the file is no such picture.
+/// The pixels of a 640 x 480 picture as RGB; empty when the file is not such a picture.
 std::string PixelsOf(const std::filesystem::path& file) {
   png_image image{};
   image.version = PNG_IMAGE_VERSION;
@@ -60,7 +60,7 @@ TEST(Coillevel, CheckNamesTheLine) {
   }
 }
 
-/// A map of 22 rows with these codes at column and row, and these lines below.
+/// A map of 22 rows with these codes at their columns and rows, and these lines below.
 std::string Map(const std::vector<std::tuple<int, int, char>>& codes, const std::string& keys) {
   std::string text;
   for (int row = 1; row <= 22; ++row) {
@@ -74,7 +74,7 @@ std::string Map(const std::vector<std::tuple<int, int, char>>& codes, const std:
   return text + keys;
 }
 
-/// A ring of codes round the cells from column and row, `size` cells a side within.
+/// A ring of codes around a square of `size` cells that begins at this column and row.
 void Ring(std::vector<std::tuple<int, int, char>>& codes, int column, int row, int size,
           char code) {
   for (int i = -1; i <= size; ++i) {
@@ -204,7 +204,8 @@ TEST(Coillevel, DrawsTheFieldAndLeavesTheProgramFolderAlone) {
   EXPECT_EQ(shop.Run("ls game; ls -d coillevel-*").output, "gfx.snr\nlvl\n");
 }
 
-/// The player of a fresh install has model 1; computer snakes take the lowest that is left.
+/// The player has model 1 after a fresh installation; computer snakes take the lowest that are
+/// left.
 TEST(Coillevel, DrawsTheStartMarksThatTheGameGivesOut) {
   const Workshop shop;
   const std::string pack = COILRUN_BUILD_DIR "/tools/coilpack create ";

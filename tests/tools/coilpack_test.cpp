@@ -14,7 +14,7 @@ using ::testing::StartsWith;
 
 const std::string kPack = COILRUN_BUILD_DIR "/tools/coilpack";
 
-/// A workshop with a folder worth packing.
+/// A workshop with a folder to pack.
 class CoilpackTest : public ::testing::Test {
  protected:
   CoilpackTest() {
@@ -241,7 +241,7 @@ TEST_F(CoilpackTest, NamesWhatAModelPackLacks) {
       HasSubstr("grass/head_left.bmp is missing; the game reads no PNG: \"coilpack create"));
 }
 
-/// What the build packed for the game is whole, and lies under the names the game looks for.
+/// What the build packed for the game is intact, and has the names that the game looks for.
 TEST_F(CoilpackTest, PackedTheGame) {
   const std::filesystem::path game = COILRUN_BUILD_DIR "/game";
   const auto list = Pack("list '" + (game / "gfx.snr").string() + "'");

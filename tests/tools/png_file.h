@@ -6,7 +6,7 @@
 
 namespace coilrun {
 
-/// A PNG file; the pixels are red, green, blue and, when there are four bytes a pixel, opacity.
+/// A PNG file; the pixels are red, green, blue and, with four bytes per pixel, opacity.
 inline std::string PngFile(unsigned width, unsigned height, const std::string& pixels) {
   png_image image{};
   image.version = PNG_IMAGE_VERSION;
@@ -22,7 +22,7 @@ inline std::string PngFile(unsigned width, unsigned height, const std::string& p
   return file;
 }
 
-/// One of one colour, three or four bytes.
+/// A PNG file of a single colour, given by three or four bytes.
 inline std::string PlainPng(unsigned width, unsigned height, const std::string& color) {
   std::string pixels;
   for (unsigned i = 0; i < width * height; ++i) pixels += color;

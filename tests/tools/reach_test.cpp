@@ -15,8 +15,8 @@ namespace {
 
 constexpr std::array kForces = {Force::kNone, Force::kTnt, Force::kPower};
 
-/// Plays one step and the check of the walls that comes before the next: where the head is then,
-/// nothing when the snake died.
+/// Plays one step and the wall check before the next; returns where the head is then, or nothing
+/// when the snake died.
 std::optional<Point> Played(const State& level, Point from, Dir dir, Force force) {
   const auto field = std::make_unique<Field>();
   field->state = level;
@@ -82,7 +82,7 @@ TEST(Ground, KeepsToTheRasterOfTheStartUntilAnEdgeShiftsIt) {
   EXPECT_FALSE(places.AnyTouches({-2, 2, -2, 2}, {605, 15}));
 }
 
-/// A corridor of one lane round the open edge, shut by a wall at x 300.
+/// A corridor of one lane across the open edge, closed by a wall at x 300.
 TEST(Ground, NeverTurnsBackOnTheSpot) {
   Field field;
   field.state.level.hasOpenWalls = true;

@@ -39,7 +39,7 @@ class Workshop {
     std::string output;
     std::string errors;
   };
-  /// Runs a shell command in the folder.
+  /// Runs a shell command in this folder.
   Outcome Run(const std::string& command) const {
     const std::string line =
         "cd '" + folder_.string() + "' && { " + command + "; } >.output 2>.errors </dev/null";
