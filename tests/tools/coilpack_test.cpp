@@ -238,7 +238,7 @@ TEST_F(CoilpackTest, NamesWhatAModelPackLacks) {
   ASSERT_EQ(Code("mv png.rar grass.smp"), 0);
   EXPECT_THAT(
       Pack("test --model grass.smp").errors,
-      HasSubstr("grass/head_left.bmp is missing; the game reads no PNG: \"coilpack create"));
+      HasSubstr("grass/head_left.bmp is missing; the game reads no PNG, but \"coilpack create"));
 }
 
 /// What the build packed for the game is intact, and has the names that the game looks for.
