@@ -99,7 +99,7 @@ int Main(const std::vector<std::string>& arguments) {
   std::error_code error;
   if (options.user && std::filesystem::exists(*options.user, error) &&
       !std::filesystem::is_directory(*options.user, error)) {
-    return Complain("--user " + options.user->string() + " is no folder", kWrongUse);
+    return Complain("--user " + options.user->string() + " is not a folder", kWrongUse);
   }
   return options.headless ? PlayHeadless(options) : PlayInWindow(options);
 }
@@ -111,7 +111,7 @@ int main(int argc, char** argv) {
   try {
     return coilrun::Main({argv + 1, argv + argc});
   } catch (const std::exception& broken) {
-    std::cerr << "coilrun: broken: " << broken.what() << '\n';
+    std::cerr << "coilrun: internal error: " << broken.what() << '\n';
     return 1;
   }
 }

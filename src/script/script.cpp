@@ -97,7 +97,7 @@ class Reader {
     if (!millis || *millis < 0 || *millis > kMaxMillis) {
       return Quoted(word) + " is not a time in milliseconds";
     }
-    if (*millis * kMicrosInAMilli < now_) return "the time is before that of the line above";
+    if (*millis * kMicrosInAMilli < now_) return "the time is before the one in the line above";
     now_ = *millis * kMicrosInAMilli;
     return std::nullopt;
   }
@@ -155,7 +155,7 @@ class Reader {
   }
   Problem ReadFocus(string_view rest) {
     const string_view change = WithoutBlanksAround(rest);
-    if (change != "lost" && change != "gained") return "the focus is lost or gained";
+    if (change != "lost" && change != "gained") return "the focus can be lost or gained";
     Add(change == "lost" ? Verb::kFocusLost : Verb::kFocusGained);
     return std::nullopt;
   }

@@ -41,7 +41,7 @@ void ScriptPlayer::Gather(WindowListener& listener) {
     Run(script_.steps[nextStep_++], listener);
   }
   if (now - script_.lastAt >= kMostTimeAfterTheLastStep) {
-    Abandon("ten minutes after the last command the game still runs");
+    Abandon("the game is still running ten minutes after the last command");
   }
 }
 
@@ -49,7 +49,7 @@ void ScriptPlayer::CheckThatTimeMoves(std::int64_t now) {
   yieldsWithoutTime_ = now == lastNow_ ? yieldsWithoutTime_ + 1 : 1;
   lastNow_ = now;
   if (yieldsWithoutTime_ >= kMostYieldsWithoutTime) {
-    Abandon("a million yields have passed, and no time");
+    Abandon("a million yields have passed, but no time");
   }
 }
 

@@ -140,7 +140,7 @@ TEST(Coillevel, CheckNamesWhatAwaitsTheSnakes) {
        "can reach no crystals\n"},
       {{},
        "numBlack=1\nHideCollected=True\nreqBlack=2\n",
-       "x.dat:26: more black bananas than lie there (1): "},
+       "x.dat:26: more black bananas than there are (1): "},
       {{}, "numBlack=1\nreqScore=20\n", "x.dat:25: nothing that gives points can be reached\n"},
       {{}, "numBlue=1\nblueRate=1\n", "x.dat:25: at a rate of 1 or less no crystal ever"},
       // Walls beside "+"

@@ -157,7 +157,7 @@ class FieldCheck {
     } else if (!CanTake(kind, player)) {
       Warn(LineOf(key), "the player can reach no " + many);
     } else if (level_.level.HideCollected && needed > shown) {
-      Warn(LineOf(key), "more " + many + " than lie there (" + std::to_string(shown) +
+      Warn(LineOf(key), "more " + many + " than there are (" + std::to_string(shown) +
                             "): eaten ones stay hidden until a life is lost");
     }
   }

@@ -153,7 +153,7 @@ const KeyDef* LevelChecker::CheckKey(std::string_view line) {
     if (value) {
       CheckValue(def, line, *value);
     } else {
-      Refuse("no value that " + Quoted(def.text) + " can take");
+      Refuse("not a value that " + Quoted(def.text) + " can take");
     }
     const bool accumulates = def.key == LevelKey::kRequires || def.kind == ValueKind::kUserItem;
     int& before = lines_.keys[def.key];
@@ -217,7 +217,7 @@ void LevelChecker::CheckRange(const KeyDef& def, double number) {
     return;
   }
   aiSnakes_ = number;
-  if (!ToInt16(number + 1)) Refuse("a number of snakes beyond all limits");
+  if (!ToInt16(number + 1)) Refuse("more snakes than the game can count");
 }
 
 void LevelChecker::CheckName(const KeyDef& def, std::string_view text) {
@@ -251,7 +251,7 @@ void LevelChecker::CheckUserItem(const KeyDef& def, const LevelValue& value) {
     if (!letter.hasPicture) Warn("ignored: there is no picture " + Quoted(value.text));
     return;
   }
-  if (letter.hasPicture) Warn("ignored: \"let:\" must come before \"set:\" of the same letter");
+  if (letter.hasPicture) Warn("ignored: \"let:\" must come before the \"set:\" of the same letter");
   letter.hasType = !letter.hasPicture;
   if (std::find(kTypes.begin(), kTypes.end(), value.text) == kTypes.end()) {
     Warn(Quoted(value.text) + " is not a type of user item");
