@@ -1,15 +1,13 @@
 #include "level_drawing.h"
 
-#include <cerrno>
-#include <cstdlib>
 #include <stdexcept>
-#include <system_error>
 
 #include "content/archives.h"
 #include "content/load_level.h"
 #include "content/model_packs.h"
 #include "model/shown_model.h"
 #include "platform/disk_files.h"
+#include "platform/folders.h"
 #include "platform/png_file.h"
 #include "platform/rar/rar_archive.h"
 #include "quiet_ports.h"
@@ -19,29 +17,6 @@ namespace coilrun {
 namespace {
 
 constexpr const char* kPath = ".\\lvl\\level.dat";
-
-/// A folder of its own below the system's temporary one, removed with everything in it.
-class TemporaryFolder {
- public:
-  TemporaryFolder() {
-    std::string pattern = (std::filesystem::temp_directory_path() / "coillevel-XXXXXX").string();
-    if (mkdtemp(pattern.data()) == nullptr) {
-      throw std::system_error(errno, std::generic_category(), pattern);
-    }
-    path_ = pattern;
-  }
-  ~TemporaryFolder() {
-    std::error_code ignored;
-    std::filesystem::remove_all(path_, ignored);
-  }
-  TemporaryFolder(const TemporaryFolder&) = delete;
-  TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-
-  const std::filesystem::path& Path() const { return path_; }
-
- private:
-  std::filesystem::path path_;
-};
 
 /// Makes everything go into the temporary folder.
 bool NeverWritable(const std::filesystem::path& /*folder*/) {
@@ -80,6 +55,7 @@ void GiveUp() {
 std::string DrawLevel(std::string_view text, const std::filesystem::path& programFolder,
                       const std::filesystem::path& picture) {
   const TemporaryFolder temporary;
+  if (temporary.Path().empty()) return "no temporary folder can be made";
   DiskFiles files(programFolder, temporary.Path(), NeverWritable);
   RarArchive archive(files);
   State state;
@@ -100,7 +76,7 @@ std::string DrawLevel(std::string_view text, const std::filesystem::path& progra
     return "cannot write into " + temporary.Path().string();
   }
   LoadLevel(context, kPath);
-  if (state.shell.NoGameRunning) return "the game would not load it; \"check\" tells why";
+  if (state.shell.NoGameRunning) return "the game would not load it; \"check\" says why";
   DrawField(renderer.Field());
   const Surface& drawn = renderer.Screen().Back();
   return WritePng(picture, drawn.Pixels()) ? "" : "cannot write " + picture.string();
