@@ -43,12 +43,17 @@ TEST(Coillevel, CheckNamesTheLine) {
   shop.Put("below.dat", LevelWith("a wall is missing here\r\n_ | | ;\r\n"));
   shop.Put("blank.dat", LevelWith("numYellow= 3 \r\nreqRed=1 2\r\n"));
   shop.Put("bad.dat", LevelWith("lvlName= Bad\r\nnumRed=301\r\n"));
+  shop.Put("worse.dat", LevelWith("numRed=3\r\nnumRed=301\r\n"));
+  shop.Put("mended.dat", LevelWith("numRed=301\r\nnumRed=3\r\n"));
   const std::tuple<std::string, int, std::string> cases[] = {
       {"good.dat", 0, ""},
       {"odd.dat", 0, "odd.dat:23: ignored"},
       {"below.dat", 0, "below.dat:24: ignored: the map has 22 rows"},
       {"blank.dat", 0, "blank.dat:24: \"1 2\" is read as 12"},
       {"bad.dat", 1, "bad.dat:24: more than 300"},
+      {"worse.dat", 1,
+       "worse.dat:24: \"numRed=\" again: line 23 has no effect\nworse.dat:24: more"},
+      {"mended.dat", 0, "mended.dat:24: \"numRed=\" again: line 23 has no effect\n"},
       {"good.dat bad.dat", 1, "bad.dat:24: "},
       {COILRUN_BUILD_DIR "/game/lvl/*.dat", 0, ""},
   };

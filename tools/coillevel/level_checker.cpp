@@ -53,6 +53,7 @@ std::vector<Finding> LevelChecker::Check(std::string_view text) {
   }
   CheckLines(text);
   if (cells_ == 0 && lines_.keys.empty()) return {{1, "nothing here makes a level"}};
+  CheckItemCounts();
   CheckLetters();
   CheckStarts();
   Add(walls_.Find());
@@ -209,9 +210,7 @@ void LevelChecker::CheckNumber(const KeyDef& def, std::string_view rest, const L
 }
 
 void LevelChecker::CheckRange(const KeyDef& def, double number) {
-  if (IsItemCount(def.key) && number > kMaxItems) {
-    Refuse("more than " + std::to_string(kMaxItems) + " items of a kind");
-  }
+  if (IsItemCount(def.key)) itemCounts_[def.key] = number;
   if (def.key != LevelKey::kAIS) {
     if (number < 0) Warn("a number below 0");
     return;
@@ -272,6 +271,14 @@ void LevelChecker::CheckNoKey(std::string_view line) {
   const bool looksLikeAKey = equals != word.npos && word.find(' ') > equals;
   if (line_ > kMapRows && looksLikeAKey) {
     Warn("ignored: there is no key " + Quoted(word.substr(0, equals + 1)));
+  }
+}
+
+/// What the last line of a kind says counts: an earlier one may ask for too many.
+void LevelChecker::CheckItemCounts() {
+  for (const auto& [key, number] : itemCounts_) {
+    line_ = lines_.keys[key];
+    if (number > kMaxItems) Refuse("more than " + std::to_string(kMaxItems) + " items of a kind");
   }
 }
 

@@ -38,6 +38,7 @@ class LevelChecker {
   void CheckName(const KeyDef& def, std::string_view text);
   void CheckUserItem(const KeyDef& def, const LevelValue& value);
   void CheckNoKey(std::string_view line);
+  void CheckItemCounts();
   void CheckLetters();
   void CheckStarts();
   void Add(const std::vector<Finding>& findings);
@@ -53,6 +54,7 @@ class LevelChecker {
   const Pictures& pictures_;
   std::vector<Finding> findings_;
   std::map<CellKind, int> counts_;
+  std::map<LevelKey, double> itemCounts_;
   std::map<char, Letter> letters_;  ///< user items of the map by their upper-case letter
   LevelLines lines_;
   WallGaps walls_;
