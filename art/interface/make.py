@@ -14,6 +14,9 @@ HERE = Path(__file__).resolve().parent
 SCREEN = (640, 480)
 FINE = 8
 PLATE_FINE = 4
+OPTIONS_TITLE = (148, 2, 340)
+PAGE_TITLES = {"more": "More", "match": "Match", "controls": "Controls"}
+TITLE_STRIP = (220, 84, 420, 140)
 BUTTONS = {"NewGame": "New Game", "Options": "Options", "HiScore": "High Scores", "Exit": "Exit"}
 GOLD = ((255, 250, 214), (255, 214, 84), (232, 140, 22), (112, 52, 6))
 RED = ((255, 214, 196), (250, 84, 60), (190, 18, 14), (90, 4, 6))
@@ -107,6 +110,12 @@ def background(scene, title, place, subtitle=None, fade=(410, 438, 0.16)):
     return np.rint(picture * 255).astype(np.uint8)
 
 
+def options_page(scene, title, text):
+    """The scene of the options page under another heading; the pages that look like it share all
+    but `TITLE_STRIP`."""
+    return background(scene, title, OPTIONS_TITLE, (text, 38, 117, 316), (436, 462, 0.25))
+
+
 def button(plate, text, ramp):
     rgba = np.repeat(np.repeat(reduce.load_rgba(plate), 2, axis=0), 2, axis=1)
     srgb, coverage = reduce.block_average(rgba, FINE)
@@ -170,10 +179,10 @@ def main():
 
     menus = GFX / "menu"
     reduce.save(background(menu, title, (212, 0, 420)), menus / "bkg.png")
-    line = ("Options", 38, 117, 316)
-    reduce.save(
-        background(options, title, (148, 2, 340), line, (436, 462, 0.25)), menus / "bkg_o.png"
-    )
+    reduce.save(options_page(options, title, "Options"), menus / "bkg_o.png")
+    for file, text in PAGE_TITLES.items():
+        strip = Image.fromarray(options_page(options, title, text)).crop(TITLE_STRIP)
+        reduce.save(np.asarray(strip), menus / f"title_{file}.png")
     line = ("High Scores", 46, 164, 408)
     reduce.save(
         background(scores, title, (250, 4, 340), line, (432, 458, 0.25)), menus / "bkg_hs.png"

@@ -133,7 +133,7 @@ bool SetupSnakes(const ContentContext& context) {
 }
 
 void SetMatchLimit(ModeState& mode) {
-  if (mode.MatchLimit <= 1) mode.MatchLimit = UsualMatchLimit(mode);
+  if (mode.MatchLimit <= 1) mode.MatchLimit = UsualMatchLimit(mode.HuntingMode);
 }
 
 bool TryLoadLevel(const ContentContext& context, const std::string& path) {

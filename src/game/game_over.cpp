@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string>
 
+#include "game/match.h"
 #include "game/snake_timers.h"
 #include "game/waiting.h"
 #include "ports/scan_codes.h"
@@ -58,20 +59,20 @@ void GameOverScreen(Game& game) {
   state.overlay = WaitOverlay::kNone;
 }
 
-/// The next game starts at 0 with all lives; until then the menus are open. A level that ended
-/// before its screen was shown must not keep the menus from taking keys.
+}  // namespace
+
 void LeaveGame(State& state) {
   SnakeRec& player = state.Snakes(kPlayer);
   player.TotalScore = 0;
   player.Lives = kLivesOfAGame;
   StopSnakeTimers(state);
+  EndMatch(state);
   state.shell.NoGameRunning = true;
+  // A level that ended before its screen was shown must not keep the menus from taking keys.
   state.shell.LevelIntroPending = false;
   state.shell.ShowLevelScreen = false;
   state.shell.InMenu = true;
 }
-
-}  // namespace
 
 void CheckGameOver(Game& game) {
   if (game.state.Snakes(kPlayer).Lives >= 0) return;

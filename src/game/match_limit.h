@@ -1,14 +1,12 @@
 #pragma once
 
-#include "model/state.h"
-
 namespace coilrun {
 
 /// What wins a match when no limit is given: a length when hunting, otherwise frags.
-inline int UsualMatchLimit(const ModeState& mode) {
+inline int UsualMatchLimit(bool isHunting) {
   constexpr int kHuntingLength = 30;
   constexpr int kFrags = 120;
-  return mode.HuntingMode ? kHuntingLength : kFrags;
+  return isHunting ? kHuntingLength : kFrags;
 }
 
 }  // namespace coilrun

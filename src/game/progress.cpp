@@ -4,8 +4,10 @@
 
 #include "game/death.h"
 #include "game/game_over.h"
+#include "game/match.h"
 #include "game/waiting.h"
 #include "model/numbers.h"
+#include "model/ranking.h"
 #include "ports/files.h"
 #include "ports/scan_codes.h"
 
@@ -57,14 +59,13 @@ void StartNewGame(Game& game) {
   mode.GodMode = false;
   mode.NoClip = false;
   mode.Cheated = false;
+  EndMatch(game.state);
   game.host.LoadLevel(InProgramFolder("\\lvl\\lvl1.dat"));
 }
 
 bool LevelComplete(const State& state, int snake) {
   if (IsMultiplayer(state.mode.GameMode)) {
-    const SnakeRec& fighter = state.Snakes(snake);
-    const int reached = state.mode.HuntingMode ? fighter.Length : fighter.Frags;
-    return reached >= state.mode.MatchLimit;
+    return ReachedInMatch(state, snake) >= state.mode.MatchLimit;
   }
   const SnakeRec& player = state.Snakes(kPlayer);
   const LevelState& level = state.level;
@@ -75,6 +76,7 @@ bool LevelComplete(const State& state, int snake) {
 
 void NextLevel(Game& game) {
   State& state = game.state;
+  if (EndsWithItsLevel(state)) return FinishMatch(game);
   state.shell.Running = false;
   CarryScore(state.Snakes(kPlayer));
   CompletionScreen(game);

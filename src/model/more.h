@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <type_traits>
 #include <vector>
@@ -57,6 +58,17 @@ struct MatchChoice {
   Int16 Limit = 0;       ///< frags or length
 };
 
+/// The entry of the match page that starts the game.
+inline constexpr int kMatchPageStart = 5;
+
+/// What the command line asks of every game.
+struct GameAsked {
+  coilrun::GameMode GameMode = coilrun::GameMode::kSingle;
+  bool HuntingMode = false;
+  int MatchLimit = 0;                    ///< 0: as the mode has it
+  std::optional<double> Computers = {};  ///< computer snakes; nothing: as the level has it
+};
+
 /// The scan codes that steer one person's snake, up to four a direction.
 struct SteeringKeys {
   static constexpr int kMostCodes = 4;
@@ -86,6 +98,8 @@ struct MoreState {
   bool Record = false;
   Int16 KeepReplays = 50;
   MatchChoice Match;
+  GameAsked Asked;
+  bool isFromMatchPage = false;  ///< the game that runs was started there
 
   bool isClassic = false;  ///< the two sections are neither read nor written in this run
 };

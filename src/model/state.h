@@ -84,10 +84,13 @@ struct MenuState {
   coilrun::MenuAction MenuAction = coilrun::MenuAction::kNone;
   Table<bool, 4> EntryLit;
   std::string StatusText;
-  bool statusHeld = false;  ///< a failure's or a question's text stays until the next key
-  bool asked = false;       ///< the player was asked whether to give up the running game
-  int EnteredPlace = 0;     ///< the place of the high score just made; 0 if there is none
-  bool EditsName = false;   ///< that entry's name is being typed
+  bool statusHeld = false;          ///< a failure's or a question's text stays until the next key
+  bool asked = false;               ///< the player was asked whether to give up the running game
+  int EnteredPlace = 0;             ///< the place of the high score just made; 0 if there is none
+  bool EditsName = false;           ///< that entry's name is being typed
+  bool awaitsKey = false;           ///< the next key is bound to the direction under the cursor
+  bool isOnMore = false;            ///< the pointer is on the words "Tab  More"
+  std::int64_t pointerHidesAt = 0;  ///< microseconds; 0 while the pointer is hidden
   std::string CreditsText;
   Int32 CreditsPos;
   std::string CreditsTicker;
@@ -118,7 +121,7 @@ struct FeedState {
 };
 
 /// A picture or texts laid over the frame while a wait goes on.
-enum class WaitOverlay : std::uint8_t { kNone, kTimeLimit, kGameOver };
+enum class WaitOverlay : std::uint8_t { kNone, kTimeLimit, kGameOver, kMatchResult };
 
 /// Level properties, named after the level file's keys.
 struct LevelState {

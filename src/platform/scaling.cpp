@@ -22,6 +22,13 @@ Area PictureArea(int windowWidth, int windowHeight) {
   return {(windowWidth - width) / 2, (windowHeight - height) / 2, width, height};
 }
 
+std::optional<ScreenPlace> PlaceOnScreen(const Area& picture, int x, int y) {
+  const int across = x - picture.x;
+  const int down = y - picture.y;
+  if (across < 0 || across >= picture.width || down < 0 || down >= picture.height) return {};
+  return ScreenPlace{across * kScreenWidth / picture.width, down * kScreenHeight / picture.height};
+}
+
 RowRange CanvasRows(const RowRange& screenRows, const Area& area) {
   const auto firstShowing = [&](int screenRow) {
     return (screenRow * area.height + kScreenHeight - 1) / kScreenHeight;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -15,6 +16,14 @@ struct Area {
   int height = 0;
 
   bool operator==(const Area&) const = default;
+};
+
+/// A pixel of the screen.
+struct ScreenPlace {
+  int x = 0;
+  int y = 0;
+
+  bool operator==(const ScreenPlace&) const = default;
 };
 
 /// Rows from `first` up to, but not including, `end`.
@@ -34,6 +43,9 @@ struct Canvas {
 /// Where a window of this size (at least 1 x 1) shows the screen: centred, and scaled by a whole
 /// number if that fills the window well, otherwise as large as fits.
 Area PictureArea(int windowWidth, int windowHeight);
+
+/// The pixel of the screen that is shown at a place of the window; nothing beside the picture.
+std::optional<ScreenPlace> PlaceOnScreen(const Area& picture, int x, int y);
 
 /// The screen rows that differ between two pictures; an empty range when none does.
 RowRange ChangedRows(ScreenPixels before, ScreenPixels after);

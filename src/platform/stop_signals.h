@@ -26,6 +26,7 @@ class StoppableKeys : public KeySource {
 
   void Gather(WindowListener& listener) override;
   void ReadKeys(KeySnapshot& keys) override { keys_.ReadKeys(keys); }
+  std::optional<PointerEvent> NextPointerEvent() override { return keys_.NextPointerEvent(); }
   void Serve() override { keys_.Serve(); }
 
  private:

@@ -2,6 +2,9 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
+
+#include "ports/pointer.h"
 
 namespace coilrun {
 
@@ -18,7 +21,7 @@ class WindowListener {
   virtual void OnWindowEvent(WindowEvent event) = 0;
 };
 
-/// The player's hands: a keyboard and a window, or a script.
+/// The player's hands: a keyboard, a pointer and a window, or a script.
 class KeySource {
  public:
   virtual ~KeySource() = default;
@@ -32,6 +35,8 @@ class KeySource {
   /// Brings the snapshot up to date with at most one change per key, so that a short tap is seen
   /// first down and then up.
   virtual void ReadKeys(KeySnapshot& keys) = 0;
+  /// Takes the oldest thing that the pointer did and that has not been told yet.
+  virtual std::optional<PointerEvent> NextPointerEvent() = 0;
 };
 
 }  // namespace coilrun

@@ -5,7 +5,6 @@
 #include <utility>
 
 #include "model/numbers.h"
-#include "render/options_lines.h"
 
 namespace coilrun {
 namespace {
@@ -13,10 +12,12 @@ namespace {
 constexpr Color kWhite{250, 250, 250};
 constexpr Color kDimmed{150, 150, 150};
 constexpr Color kCursor{250, 250, 31};
+constexpr Color kWarning{250, 130, 90};
 constexpr Color kScore{150, 170, 160};
 constexpr int kStatusY = 459;
 constexpr int kVersionX = 580;
 constexpr int kTickerY = 437;
+constexpr Point kTitleAt{220, 84};
 
 struct Button {
   Standard normal;
@@ -28,19 +29,6 @@ constexpr std::array<Button, 4> kButtons = {{{Standard::kNewGame, Standard::kNew
                                              {Standard::kOptions, Standard::kOptionsLit, 230},
                                              {Standard::kHiScore, Standard::kHiScoreLit, 250},
                                              {Standard::kExit, Standard::kExitLit, 290}}};
-
-struct Heading {
-  std::string_view text;
-  Point at;
-  int beforeLine;
-};
-constexpr std::array<Heading, 5> kHeadings = {{{"Speed Settings", {50, 200}, 1},
-                                               {"Game (Speed) Mutators", {50, 285}, 4},
-                                               {"Game Options", {50, 370}, 7},
-                                               {"GFX:", {250, 200}, 9},
-                                               {"Sound:", {250, 240}, 10}}};
-constexpr int kFirstMutator = 4;
-constexpr int kLastMutator = 6;
 
 constexpr std::array<std::string_view, kHiScores> kPlaces = {
     " 1st: ", " 2nd: ", " 3rd: ", " 4th: ", " 5th: ",
@@ -74,43 +62,34 @@ void MenuPages::DrawMainPage() {
   DrawStatus(state_.menus.StatusText);
 }
 
-void MenuPages::DrawTicker() {
+void MenuPages::DrawMainPageFoot() {
   text_.SetFont(MenuFont("Courier New"));
   text_.SetColor({160, 160, 160});
   text_.DrawSystemText("Credits " + state_.menus.CreditsTicker, 5, kTickerY);
   text_.SetColor({190, 220, 190});
   text_.DrawSystemText("Credits ", 5, kTickerY);
+  DrawText("Tab  More", {kMoreText.left, kMoreText.top}, TextLook::kPlain);
 }
 
-void MenuPages::DrawOptionsLines() {
+void MenuPages::DrawOptionsBackground() {
   canvas_.DrawWhole(standard_(Standard::kMenuOptions));
-  text_.SetFont(MenuFont("Arial"));
-  for (int line = 1; line <= kOptionsLines; ++line) {
-    const bool mutator = line >= kFirstMutator && line <= kLastMutator;
-    const bool dimmed = mutator && state_.mode.GameMode == GameMode::kDeathmatch;
-    text_.SetColor(dimmed ? kDimmed : kWhite);
-    for (const Heading& heading : kHeadings) {
-      if (heading.beforeLine != line) continue;
-      text_.DrawSystemText(heading.text, heading.at.x, heading.at.y);
-    }
-    const Point at = OptionsLineAt(line);
-    text_.DrawSystemText(OptionsLineText(state_, line), at.x, at.y);
+}
+
+void MenuPages::DrawPageBackground(MorePage page) {
+  DrawOptionsBackground();
+  NamedPicture& title = titles_.at(static_cast<std::size_t>(page));
+  if (title.name.empty()) {
+    title = {"menu\\title_" + std::string{Word(page)} + ".bmp", KeyMode::kBlack};
   }
-  DrawModelPreview();
+  const Picture& picture = items_.Fetch(title);
+  canvas_.Back().Blit(picture, picture.Bounds(), kTitleAt.x, kTitleAt.y, false);
 }
 
-void MenuPages::DrawOptionsCursorLine() {
-  const int line = state_.menus.OptionsCursor;
-  if (line < 1 || line > kOptionsLines) return;
+void MenuPages::DrawText(std::string_view text, Point at, TextLook look) {
+  constexpr std::array kColors = {kWhite, kDimmed, kCursor, kWarning};
   text_.SetFont(MenuFont("Arial"));
-  text_.SetColor(kCursor);
-  const Point at = OptionsLineAt(line);
-  text_.DrawSystemText(OptionsLineText(state_, line), at.x, at.y);
-  if (line == kOptionsLines) DrawModelPreview();
-}
-
-void MenuPages::DrawOptionsFooter() {
-  DrawStatus(state_.menus.StatusText);
+  text_.SetColor(kColors.at(static_cast<std::size_t>(look)));
+  text_.DrawSystemText(text, at.x, at.y);
 }
 
 void MenuPages::DrawHighScorePage() {
@@ -130,10 +109,8 @@ void MenuPages::DrawHighScorePage() {
 }
 
 void MenuPages::DrawStatus(std::string_view status) {
-  text_.SetFont(MenuFont("Arial"));
-  text_.SetColor(kWhite);
-  text_.DrawSystemText(status, 5, kStatusY);
-  text_.DrawSystemText("v. " + version_, kVersionX, kStatusY);
+  DrawText(status, {5, kStatusY}, TextLook::kPlain);
+  DrawText("v. " + version_, {kVersionX, kStatusY}, TextLook::kPlain);
 }
 
 void MenuPages::DrawModelPreview() {

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <array>
 #include <string>
+#include <string_view>
 
 #include "model/state.h"
 #include "render/canvas.h"
@@ -10,6 +12,12 @@
 #include "render/text_painter.h"
 
 namespace coilrun {
+
+/// How a text of a page looks.
+enum class TextLook : std::uint8_t { kPlain, kDimmed, kLit, kWarning };
+
+/// The words "Tab  More" on the main page.
+inline constexpr Rect kMoreText{290, 330, 370, 348};
 
 /// The pages of the menus, drawn from the state in pieces: what changes between the pieces (cursor,
 /// lit entry, ticker, values) is the caller's.
@@ -21,22 +29,22 @@ class MenuPages {
 
   /// Main page: background, buttons, the lit entry with its banana, status line and version.
   void DrawMainPage();
-  /// The credits ticker, last on the main page.
-  void DrawTicker();
+  /// The credits ticker and the way to further pages, last on the main page.
+  void DrawMainPageFoot();
 
-  /// Options page: background, headings and the fourteen lines as they stand, the model's preview.
-  void DrawOptionsLines();
-  /// The cursor's line again, with its new value, highlighted.
-  void DrawOptionsCursorLine();
-  /// Status line and version, last on the options page.
-  void DrawOptionsFooter();
+  void DrawOptionsBackground();
+  /// The options page's background with the title of another page.
+  void DrawPageBackground(MorePage page);
+  void DrawText(std::string_view text, Point at, TextLook look);
+  /// Head, body and tail of the player's model, on the options page.
+  void DrawModelPreview();
+  /// Status line and version, last on a page.
+  void DrawStatus(std::string_view status);
 
   /// The whole high-score page.
   void DrawHighScorePage();
 
  private:
-  void DrawStatus(std::string_view status);
-  void DrawModelPreview();
   void DrawButton(Standard picture, int y);
   void DrawLitButton(Standard picture, int y);
 
@@ -47,6 +55,7 @@ class MenuPages {
   ItemPictures& items_;
   TextPainter& text_;
   std::string version_;
+  std::array<NamedPicture, 5> titles_;  ///< by page
 };
 
 /// Colour of step 0 to 60 of the menus' fades.

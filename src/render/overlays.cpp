@@ -6,6 +6,7 @@
 
 #include "model/numbers.h"
 #include "model/snakes_in_play.h"
+#include "render/match_result.h"
 
 namespace coilrun {
 namespace {
@@ -152,6 +153,7 @@ void Overlays::DrawWaitOverlay() {
     text_.DrawSystemText("Press Enter", 270, 250);
     text_.SetTextStyle("Standart");
   }
+  if (state_.overlay == WaitOverlay::kMatchResult) DrawMatchResult(state_, canvas_, text_);
 }
 
 void Overlays::DrawLevelScreenPage() {

@@ -41,7 +41,8 @@ Renderer::Renderer(State& state, RendererPorts ports)
       text_(state, canvas_, ports.textFace),
       field_(state, canvas_, standard_, models_, items_),
       overlays_(state, canvas_, standard_, items_, text_, ports.version),
-      menus_(state, canvas_, standard_, models_, items_, text_, ports.version) {}
+      menus_(state, canvas_, standard_, models_, items_, text_, ports.version),
+      levelPicture_(loader_, standard_, models_, items_) {}
 
 void Renderer::DrawFrame(const Table<bool, kMaxSnakes>& shown) {
   field_.DrawBackground();

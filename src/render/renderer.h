@@ -9,6 +9,7 @@
 #include "ports/pump.h"
 #include "ports/screen.h"
 #include "ports/text_face.h"
+#include "render/level_picture.h"
 #include "render/menu_pages.h"
 #include "render/overlays.h"
 #include "render/play_field.h"
@@ -39,6 +40,11 @@ class Renderer {
   PlayField& Field() { return field_; }
   Overlays& Overlay() { return overlays_; }
   MenuPages& Menus() { return menus_; }
+  /// Draws a small picture of a level that is not being played, its top left at `x`, `y`.
+  void DrawLevelPicture(const State& level, const std::string& name, int x, int y) {
+    levelPicture_.Draw(canvas_.Back(), level, name, x, y);
+  }
+  void ForgetLevelPicture() { levelPicture_.Forget(); }
   TextPainter& Text() { return text_; }
   Canvas& Screen() { return canvas_; }
 
@@ -79,6 +85,7 @@ class Renderer {
   PlayField field_;
   Overlays overlays_;
   MenuPages menus_;
+  LevelPicture levelPicture_;
 };
 
 }  // namespace coilrun

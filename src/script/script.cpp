@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "ports/scan_codes.h"
+#include "ports/screen.h"
 #include "script/script_text.h"
 
 namespace coilrun {
@@ -109,7 +110,8 @@ class Reader {
         Command{"answer", &Reader::ReadAnswer}, Command{"focus", &Reader::ReadFocus},
         Command{"state", &Reader::ReadState},   Command{"shot", &Reader::ReadShot},
         Command{"set", &Reader::ReadSet},       Command{"close", &Reader::ReadClose},
-        Command{"end", &Reader::ReadEnd}};
+        Command{"end", &Reader::ReadEnd},       Command{"point", &Reader::ReadPoint},
+        Command{"click", &Reader::ReadClick},   Command{"wheel", &Reader::ReadWheel}};
     const auto* const found = std::ranges::find(kCommands, word, &Command::word);
     if (found == kCommands.end()) return "there is no command " + Quoted(word);
     return (this->*found->read)(rest);
@@ -160,6 +162,30 @@ class Reader {
     return std::nullopt;
   }
 
+  Problem ReadPoint(string_view rest) {
+    rest = WithoutBlanksInFront(rest);
+    const auto x = WholeNumberOf(TakeWord(rest));
+    const auto y = WholeNumberOf(WithoutBlanksAround(rest));
+    if (!x || !y || *x < 0 || *x >= kScreenWidth || *y < 0 || *y >= kScreenHeight) {
+      return "a place is two numbers, from 0 to 639 and from 0 to 479";
+    }
+    Add(Verb::kPointer).pointer = {PointerAct::kMove, static_cast<int>(*x), static_cast<int>(*y)};
+    return std::nullopt;
+  }
+  Problem ReadClick(string_view rest) {
+    const string_view button = WithoutBlanksAround(rest);
+    if (button != "left" && button != "right") return "a click is left or right";
+    Add(Verb::kPointer).pointer.act =
+        button == "left" ? PointerAct::kLeftButton : PointerAct::kRightButton;
+    return std::nullopt;
+  }
+  Problem ReadWheel(string_view rest) {
+    const string_view way = WithoutBlanksAround(rest);
+    if (way != "up" && way != "down") return "the wheel goes up or down";
+    Add(Verb::kPointer).pointer.act = way == "up" ? PointerAct::kWheelUp : PointerAct::kWheelDown;
+    return std::nullopt;
+  }
+
   Problem ReadState(string_view rest) { return ReadBare(Verb::kState, rest); }
   Problem ReadClose(string_view rest) { return ReadBare(Verb::kClose, rest); }
   Problem ReadEnd(string_view rest) { return ReadBare(Verb::kEnd, rest); }
@@ -192,10 +218,10 @@ class Reader {
   }
 
   ScriptStep& Add(Verb verb) {
-    return script_.steps.emplace_back(ScriptStep{now_, verb, 0, line_, {}, {}});
+    return script_.steps.emplace_back(ScriptStep{now_, verb, 0, line_, {}, {}, {}});
   }
   void Imply(std::int64_t at, Verb verb, std::uint8_t code) {
-    implied_.push_back({at, verb, code, line_, {}, {}});
+    implied_.push_back({at, verb, code, line_, {}, {}, {}});
   }
 
   Script script_;

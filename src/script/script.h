@@ -6,12 +6,15 @@
 #include <string_view>
 #include <vector>
 
+#include "ports/pointer.h"
+
 namespace coilrun {
 
 /// What a step of a script does.
 enum class Verb : std::uint8_t {
   kKeyDown,
   kKeyUp,
+  kPointer,
   kFocusLost,
   kFocusGained,
   kState,
@@ -27,8 +30,9 @@ struct ScriptStep {
   Verb verb = Verb::kEnd;
   std::uint8_t code = 0;  ///< scan code of a key step
   int line = 0;           ///< in the script's text, for messages
-  std::string name;       ///< the file of a shot, the field of a set
-  std::string value;      ///< what a field is set to
+  PointerEvent pointer = {};
+  std::string name;   ///< the file of a shot, the field of a set
+  std::string value;  ///< what a field is set to
 };
 
 /// How the next message box is answered, from this time on.

@@ -59,6 +59,9 @@ void ScriptPlayer::Run(const ScriptStep& step, WindowListener& listener) {
       return QueueKey(step.code, true);
     case Verb::kKeyUp:
       return QueueKey(step.code, false);
+    case Verb::kPointer:
+      pointer_.push_back(step.pointer);
+      return;
     case Verb::kFocusLost:
       return listener.OnWindowEvent(WindowEvent::kFocusLost);
     case Verb::kFocusGained:
@@ -94,6 +97,13 @@ void ScriptPlayer::ReadKeys(KeySnapshot& keys) {
     const bool shownHeld = key.held != (key.unseen % 2 == 1);
     keys[code] = shownHeld ? 1 : 0;
   }
+}
+
+std::optional<PointerEvent> ScriptPlayer::NextPointerEvent() {
+  if (pointer_.empty()) return std::nullopt;
+  const PointerEvent event = pointer_.front();
+  pointer_.pop_front();
+  return event;
 }
 
 BoxAnswer ScriptPlayer::Show(const std::string& title, const std::string& text,

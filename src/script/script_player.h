@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <deque>
 #include <iosfwd>
 #include <string>
 #include <string_view>
@@ -37,6 +38,7 @@ class ScriptPlayer final : public KeySource, public MessageBox {
   void Gather(WindowListener& listener) override;
   void Serve() override {}
   void ReadKeys(KeySnapshot& keys) override;
+  std::optional<PointerEvent> NextPointerEvent() override;
 
   /// Prints the box and takes the oldest answer that is due; if there is none, it is No or OK.
   BoxAnswer Show(const std::string& title, const std::string& text, BoxButtons buttons) override;
@@ -60,6 +62,7 @@ class ScriptPlayer final : public KeySource, public MessageBox {
   std::size_t nextStep_ = 0;
   std::size_t nextAnswer_ = 0;
   std::array<Key, std::tuple_size_v<KeySnapshot>> keys_{};
+  std::deque<PointerEvent> pointer_;
   std::int64_t lastNow_ = -1;
   int yieldsWithoutTime_ = 0;
 };

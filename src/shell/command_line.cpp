@@ -49,7 +49,8 @@ void CommandLine::SetCommand(std::string_view arg) {
 void CommandLine::SetLimit(std::string_view value) {
   const auto limit = ToInt16(LeadingNumber(value));
   if (!limit) return;
-  state_.mode.MatchLimit = *limit < kSmallestLimit ? UsualMatchLimit(state_.mode) : *limit;
+  state_.mode.MatchLimit =
+      *limit < kSmallestLimit ? UsualMatchLimit(state_.mode.HuntingMode) : *limit;
 }
 
 void CommandLine::SetAiSnakes(std::string_view value) {

@@ -5,12 +5,13 @@
 #include <string>
 
 #include "game/turn_queue.h"
+#include "menus/menu_keys.h"
+#include "menus/pointer.h"
+#include "menus/score_name.h"
+#include "model/scan_to_char.h"
 #include "ports/scan_codes.h"
 #include "shell/cheats.h"
 #include "shell/leaving.h"
-#include "shell/main_menu.h"
-#include "shell/scan_to_char.h"
-#include "shell/score_name.h"
 
 namespace coilrun {
 namespace {
@@ -31,13 +32,6 @@ void DropLast(std::string& text) {
   if (!text.empty()) text.pop_back();
 }
 
-/// What a controller's direction does in the menus.
-int AsArrow(int key) {
-  constexpr std::array<int, kPadDirections> kArrows = {kKeyUp, kKeyDown, kKeyLeft, kKeyRight};
-  if (key < kFirstPadCode) return key;
-  return kArrows.at(static_cast<std::size_t>((key - kFirstPadCode) % kPadDirections));
-}
-
 /// Where the player's keys and controllers steer to; `kNone` for any other key.
 Dir SteeringOf(const State& state, int key) {
   constexpr std::array kDirections = {Dir::kForw, Dir::kBack, Dir::kLeft, Dir::kRight};
@@ -49,32 +43,6 @@ Dir SteeringOf(const State& state, int key) {
     return std::find(codes.begin(), codes.end(), key) != codes.end();
   });
   return found == kDirections.end() ? Dir::kNone : *found;
-}
-
-void MainPageKey(Shell& shell, int key) {
-  MenuState& menus = shell.state.menus;
-  if (key == kKeyUp) --menus.MainCursor;
-  if (key == kKeyDown) ++menus.MainCursor;
-  if (key == kKeyEnter) MenuSelect(shell);
-}
-
-void OptionsPageKey(MenuState& menus, int key) {
-  if (key == kKeyUp) --menus.OptionsCursor;
-  if (key == kKeyDown) ++menus.OptionsCursor;
-  if (key == kKeyEnter) menus.MenuAction = MenuAction::kCycle;
-  if (key == kKeyLeft) menus.MenuAction = MenuAction::kMinus;
-  if (key == kKeyRight) menus.MenuAction = MenuAction::kPlus;
-}
-
-void MenuKey(Shell& shell, int pressed) {
-  const int key = AsArrow(pressed);
-  shell.state.menus.statusHeld = false;
-  if (key != kKeyEnter) shell.state.menus.asked = false;
-  if (OnOptionsPage(shell.state)) {
-    OptionsPageKey(shell.state.menus, key);
-  } else if (!OnScorePage(shell.state)) {
-    MainPageKey(shell, key);
-  }
 }
 
 void PlayKey(State& state, int key) {
@@ -98,7 +66,7 @@ void DispatchKey(Shell& shell, int key) {
   if (now.IsPause) return;
   if (now.LevelIntroPending || now.ShowLevelScreen) return LevelScreenKey(shell.state, key);
   if (now.InMenu) {
-    MenuKey(shell, key);
+    MenuKey(shell.menus, key);
   } else {
     PlayKey(shell.state, key);
   }
@@ -106,7 +74,7 @@ void DispatchKey(Shell& shell, int key) {
 
 void EditScoreName(Shell& shell, int key) {
   if (key == kKeyBackspace) ShortenScoreName(shell.state);
-  if (key == kKeyEnter || key == kKeyEscape) StoreScoreName(shell);
+  if (key == kKeyEnter || key == kKeyEscape) StoreScoreName(shell.game);
 }
 
 void EditText(Shell& shell, int key) {
@@ -159,14 +127,7 @@ void EscapeKey(Shell& shell) {
   State& state = shell.state;
   if (!state.shell.DisplayReady) {
     AbandonStartUp(shell);
-  } else if (OnScorePage(state)) {
-    state.menus.ScorePage = 0;
-    state.menus.EnteredPlace = 0;
-    state.shell.InMenu = true;
-  } else if (OnOptionsPage(state)) {
-    state.menus.OptionsPage = 0;
-    shell.game.host.SaveSettings();
-  } else if (!state.shell.NoGameRunning) {
+  } else if (!LeavePage(shell.menus) && !state.shell.NoGameRunning) {
     LeaveOrResumeGame(state.shell);
   }
 }
@@ -181,9 +142,7 @@ void FireKey(Shell& shell, int key) {
   if (key == kKeyEscape) EscapeKey(shell);
 }
 
-}  // namespace
-
-void HandleKeys(Shell& shell) {
+void ReadHeldKeys(Shell& shell) {
   KeyState& keys = shell.state.keys;
   shell.ports.keys.ReadKeys(keys.Down);
   keys.ShiftDown = keys.Down[kKeyLeftShift] != 0;
@@ -198,6 +157,23 @@ void HandleKeys(Shell& shell) {
     if (keys.Armed[slot]) FireKey(shell, key);
     keys.Armed[slot] = false;
   }
+}
+
+/// On the pages of the menus its buttons and its wheel are keys.
+void ReadPointer(Shell& shell) {
+  while (const auto event = shell.ports.keys.NextPointerEvent()) {
+    const ShellState& now = shell.state.shell;
+    if (!now.DisplayReady || !now.InMenu) continue;
+    const int key = PointerKey(shell.menus, *event);
+    if (key != 0) FireKey(shell, key);
+  }
+}
+
+}  // namespace
+
+void HandleKeys(Shell& shell) {
+  ReadHeldKeys(shell);
+  ReadPointer(shell);
 }
 
 }  // namespace coilrun

@@ -15,6 +15,7 @@ void GiveScreenBackAndCleanUp(Shell& shell) {
 }  // namespace
 
 void UnloadWindow(Shell& shell, int exitCode) {
+  if (shell.state.more.Page != MorePage::kNone) shell.menus.host.StorePage();
   shell.game.host.SaveSettings();
   shell.ports.screen.ShowPointer(true);
   throw Terminate{exitCode};

@@ -6,9 +6,9 @@
 #include "game/movement.h"
 #include "game/shown_snakes.h"
 #include "game/steps.h"
+#include "menus/show_menus.h"
 #include "model/feed.h"
 #include "shell/display.h"
-#include "shell/main_menu.h"
 #include "shell/screens.h"
 
 namespace coilrun {
@@ -155,7 +155,7 @@ void PlayFrame(Shell& shell) {
 void Pass(Shell& shell) {
   ShellState& now = shell.state.shell;
   if (now.InMenu) {
-    ShowMenus(shell);
+    ShowMenus(shell.menus);
     return;
   }
   if (now.LevelIntroPending) now.ShowLevelScreen = true;

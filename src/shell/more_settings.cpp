@@ -92,13 +92,11 @@ void LoadMoreSettings(State& state, const SettingsStore& store) {
   }
 }
 
-void SaveMoreSettings(const State& state, const MoreState& before,
-                      const Table<SteeringKeys, kMaxPeople>& keysBefore, SettingsStore& store) {
+void SaveMoreSettings(const State& state, const MoreSettings& before, SettingsStore& store) {
   if (state.more.isClassic) return;
   std::vector<std::string> oldTexts;
-  VisitMoreSettings(before, [&](std::string_view /*key*/, const auto& value, Bounds /*bounds*/) {
-    oldTexts.push_back(TextOf(value));
-  });
+  VisitMoreSettings(before.more, [&](std::string_view /*key*/, const auto& value,
+                                     Bounds /*bounds*/) { oldTexts.push_back(TextOf(value)); });
   std::size_t index = 0;
   VisitMoreSettings(state.more, [&](std::string_view key, const auto& value, Bounds /*bounds*/) {
     const std::string text = TextOf(value);
@@ -107,7 +105,7 @@ void SaveMoreSettings(const State& state, const MoreState& before,
   for (int person = 1; person <= kMaxPeople; ++person) {
     for (const Dir dir : kDirections) {
       const auto& codes = KeysOf(state.Keys(person), dir);
-      if (codes == KeysOf(keysBefore(person), dir)) continue;
+      if (codes == KeysOf(before.keys(person), dir)) continue;
       store.Set(kKeys, KeyName(person, dir), KeyCodesText(codes));
     }
   }

@@ -5,12 +5,17 @@
 
 namespace coilrun {
 
+/// What the sections [More] and [Keys] hold.
+struct MoreSettings {
+  MoreState more;
+  Table<SteeringKeys, kMaxPeople> keys;
+};
+
 /// Reads the sections [More] and [Keys]. A value that cannot be used counts as the built-in one. A
 /// classic run keeps all built-in values.
 void LoadMoreSettings(State& state, const SettingsStore& store);
 /// Stores what differs from `before`, so that only the player's own changes are stored.
-void SaveMoreSettings(const State& state, const MoreState& before,
-                      const Table<SteeringKeys, kMaxPeople>& keysBefore, SettingsStore& store);
+void SaveMoreSettings(const State& state, const MoreSettings& before, SettingsStore& store);
 
 /// A person's keys in the shipped settings, whatever the player has stored.
 SteeringKeys ShippedKeys(int person, const SettingsStore& store);

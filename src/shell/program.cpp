@@ -3,13 +3,14 @@
 #include <utility>
 
 #include "content/load_level.h"
+#include "game/match.h"
 #include "game/speed.h"
+#include "menus/show_menus.h"
 #include "model/feed.h"
 #include "rivals/rivals.h"
 #include "shell/display.h"
 #include "shell/keys.h"
 #include "shell/leaving.h"
-#include "shell/main_menu.h"
 #include "shell/screens.h"
 #include "shell/settings.h"
 #include "shell/start_up.h"
@@ -27,7 +28,9 @@ Program::Program(State& state, const Ports& ports, std::string version)
       music_(state, ports_.files, ports_.music),
       game_{state, *this},
       content_{state, ports_.files, ports_.archive, pump_, *this},
-      shell_{state, ports_, pump_, renderer_, effects_, music_, game_, content_} {
+      levels_(ports_.files),
+      menus_{state, pump_, ports_.screen, renderer_, music_, game_, levels_, *this},
+      shell_{state, ports_, pump_, renderer_, effects_, music_, game_, content_, menus_} {
   pump_.ShowWith(renderer_);
 }
 
@@ -46,13 +49,14 @@ void Program::Yield() {
   pump_.Yield();
 }
 void Program::RunMenus() {
-  ShowMenus(shell_);
+  ShowMenus(menus_);
 }
 
 void Program::LoadLevel(const std::string& path) {
   coilrun::LoadLevel(content_, path);
   game_.drivers = MakeDrivers(state_.more.Rivals);
   state_.menus.statusHeld = state_.shell.NoGameRunning;
+  if (state_.shell.NoGameRunning) EndMatch(state_);
 }
 
 void Program::LoadSettings() {
@@ -67,6 +71,20 @@ void Program::RefreshHighScores() {
 
 void Program::SaveSettings() {
   coilrun::SaveSettings(state_, ports_.settings);
+}
+
+void Program::LeaveProgram() {
+  ExitGame(shell_);
+}
+
+void Program::NotePageOpened() {
+  beforePage_ = {state_.more, state_.Keys};
+}
+void Program::StorePage() {
+  SaveMoreSettings(state_, beforePage_, ports_.settings);
+}
+SteeringKeys Program::ShippedKeys(int person) const {
+  return coilrun::ShippedKeys(person, ports_.settings);
 }
 
 void Program::StoreSetting(const std::string& key, const std::string& value) {

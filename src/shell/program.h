@@ -8,10 +8,12 @@
 #include "game/game_host.h"
 #include "media/effects.h"
 #include "media/music.h"
+#include "menus/context.h"
 #include "model/state.h"
 #include "ports/ports.h"
 #include "render/renderer.h"
 #include "shell/main_pump.h"
+#include "shell/more_settings.h"
 #include "shell/shell.h"
 #include "shell/timer_firing.h"
 
@@ -21,6 +23,7 @@ namespace coilrun {
 /// lower ones ask upwards.
 class Program final : private GameHost,
                       private LoaderHost,
+                      private MenuHost,
                       private TimerHandlers,
                       private WindowListener {
  public:
@@ -48,6 +51,11 @@ class Program final : private GameHost,
   void LoadModelPictures(int model) override;
   void ShowProgress() override;
 
+  void LeaveProgram() override;
+  void NotePageOpened() override;
+  void StorePage() override;
+  SteeringKeys ShippedKeys(int person) const override;
+
   void OnSecond() override;
   void OnKeyboard() override;
   void OnSpeedReset() override;
@@ -62,7 +70,10 @@ class Program final : private GameHost,
   Music music_;
   Game game_;
   ContentContext content_;
+  LevelChoice levels_;
+  MenuContext menus_;
   Shell shell_;
+  MoreSettings beforePage_;  ///< as they were when the open page was opened
 };
 
 }  // namespace coilrun

@@ -4,6 +4,7 @@
 #include "game/game.h"
 #include "media/effects.h"
 #include "media/music.h"
+#include "menus/context.h"
 #include "model/state.h"
 #include "ports/ports.h"
 #include "ports/pump.h"
@@ -21,6 +22,7 @@ struct Shell {
   Music& music;
   Game& game;
   const ContentContext& content;
+  MenuContext& menus;
 };
 
 }  // namespace coilrun

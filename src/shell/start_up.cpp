@@ -1,5 +1,7 @@
 #include "shell/start_up.h"
 
+#include "game/match.h"
+#include "menus/match_page.h"
 #include "model/feed.h"
 #include "shell/command_line.h"
 #include "shell/leaving.h"
@@ -64,6 +66,8 @@ void StartUp(Shell& shell, std::string_view version, const std::string& commandL
   CheckLevelFolder(shell);
   shell.pump.Yield();
   RunSwitches(shell, commandLine);
+  NoteAskedGame(state);
+  ChooseFirstMatch(state, shell.menus.levels);
   ChooseFirstScreen(state);
   DebugPrint(state, "INIT_Main: Attaching Win Hook");
   state.timers.Start(state.timers.keybrd);

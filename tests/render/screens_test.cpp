@@ -1,6 +1,5 @@
 #include <gmock/gmock.h>
 
-#include "render/options_lines.h"
 #include "stage.h"
 
 namespace coilrun {
@@ -131,39 +130,6 @@ TEST_F(ScreensTest, FrameDrawsItsLayersInOrderOverACleanBackground) {
                           "230,210 Balloon Time Limit Hit!", "270,250 Balloon Press Enter"));
 }
 
-TEST_F(ScreensTest, OptionsPageShowsFourteenLinesAndTheCursorsOnceMore) {
-  state.ModelPacks(0).Name = "Boa";
-  state.ModelPacks(0).Author = "Eve";
-  state.menus.OptionsCursor = 6;
-  state.menus.StatusText = "help";
-
-  menus.DrawOptionsLines();
-  EXPECT_THAT(Drawn(), SizeIs(19));
-  EXPECT_THAT(Drawn(),
-              IsSupersetOf({"50,285 Arial Game (Speed) Mutators", "55,220 Arial Maximum Speed: 250",
-                            "60,345 Arial Speed rate: 0.5", "50,415 Arial Player Name: Ann",
-                            "255,220 Arial 3D Items: yes", "255,320 Arial Music Volume: 30",
-                            "300,415 Arial Player Model: Boa by Eve"}));
-  EXPECT_EQ(At(60, 345), kWhite);
-
-  state.settings.SpeedRate = 1;
-  menus.DrawOptionsCursorLine();
-  menus.DrawOptionsFooter();
-  EXPECT_EQ(At(60, 345), (Color{250, 250, 31}.ToPixel()));
-  const Texts drawn = Drawn();
-  EXPECT_THAT(
-      Texts(drawn.begin() + 19, drawn.end()),
-      ElementsAre("60,345 Arial Speed rate: 1", "5,459 Arial help", "580,459 Arial v. 1.2.24"));
-}
-
-TEST_F(ScreensTest, OptionsPageDimsTheMutatorsInAMatch) {
-  constexpr Pixel kDimmed = Color{150, 150, 150}.ToPixel();
-  Deathmatch();
-  menus.DrawOptionsLines();
-  EXPECT_THAT(At({{55, 260}, {50, 285}, {55, 305}, {60, 345}, {50, 370}, {55, 390}}),
-              ElementsAre(kWhite, kDimmed, kDimmed, kDimmed, kWhite, kWhite));
-}
-
 TEST_F(ScreensTest, MainPageShowsTheLitButtonOverItsNeighbours) {
   constexpr Pixel kNormal = 0x404040;
   constexpr Pixel kBanana = 0xFFFF00;
@@ -178,14 +144,32 @@ TEST_F(ScreensTest, MainPageShowsTheLitButtonOverItsNeighbours) {
   state.menus.CreditsTicker = "someone";
 
   menus.DrawMainPage();
-  menus.DrawTicker();
+  menus.DrawMainPageFoot();
 
   // The lit button overlaps the next one; the banana has 24 rows.
   EXPECT_THAT(At({{400, 229}, {400, 230}, {400, 259}}), ElementsAre(kNormal, kWhite, kWhite));
   EXPECT_THAT(At({{285, 235}, {285, 258}, {285, 259}}), ElementsAre(kBanana, kBanana, 0));
-  EXPECT_THAT(Drawn(),
-              ElementsAre("5,459 Arial status", "580,459 Arial v. 1.2.24",
-                          "5,437 Courier New Credits someone", "5,437 Courier New Credits "));
+  EXPECT_THAT(Drawn(), ElementsAre("5,459 Arial status", "580,459 Arial v. 1.2.24",
+                                   "5,437 Courier New Credits someone",
+                                   "5,437 Courier New Credits ", "290,330 Arial Tab  More"));
+}
+
+TEST_F(ScreensTest, TheEndOfAMatchNamesTheWinnerAboveTheTable) {
+  Deathmatch();
+  state.mode.NumSnakes = 3;
+  state.Snakes(2).Frags = 9;
+  state.Snakes(3).Name = "Cat";
+  state.Snakes(3).Frags = 7;
+  state.Snakes(3).Deaths = 1;
+  state.overlay = WaitOverlay::kMatchResult;
+  EXPECT_THAT(TextsOf(&Overlays::DrawWaitOverlay),
+              IsSupersetOf({"190,108 Arial Bot", "370,108 Arial 9", "440,108 Arial 2",
+                            "190,126 Arial Ann", "190,144 Arial Cat", "440,144 Arial 1"}));
+  state.mode.HuntingMode = true;
+  state.Snakes(3).Length = 30;
+  const Texts hunting = TextsOf(&Overlays::DrawWaitOverlay);
+  EXPECT_THAT(hunting, Contains(testing::EndsWith("Cat wins the match!")));
+  EXPECT_THAT(hunting, IsSupersetOf({"370,90 Arial Length", "370,108 Arial 30"}));
 }
 
 TEST_F(ScreensTest, HighScorePageShowsTenPlacesAndTheCommandLineOfCheats) {

@@ -1,3 +1,5 @@
+#include <fstream>
+
 #include <gmock/gmock.h>
 
 #include "scenario/game_run.h"
@@ -39,6 +41,7 @@ constexpr int kDown = 208;
 constexpr int kRight = 205;
 constexpr int kEnter = 28;
 constexpr int kEscape = 1;
+constexpr int kTab = 15;
 constexpr int kF1 = 59;
 
 TEST(Menus, EveryOptionDoesWhatItSaysAndIsFoundAgain) {
@@ -85,6 +88,61 @@ TEST(Menus, AGameIsGivenUpOnlyByTwoEnters) {
   }
   EXPECT_EQ(run.states[3]["lvlName"], "Bare Field");
   EXPECT_EQ(run.states[3]["InMenu"], false);
+}
+
+/// The mouse on the pages, from a place to the next.
+Fingers& PointAndClick(Fingers& hand, const std::string& place) {
+  return hand.Then("point " + place).Then("click left", 200);
+}
+
+TEST(Menus, AMatchIsChosenStartedAndEndedByMouse) {
+  const ProgramFolder folder;
+  std::ofstream(folder.Data() / "lvl" / "arena.dat")
+      << "_ ;\n_ ;\n_ ;\n_ ;\n_ _ _ S _ _ 1 _ _ 2 _ _ 3 _ _ 4 _ _ 5 _ _ 6 _ _ 7 _ _ ;\n"
+         "lvlName= Arena\nMatchLimit=35\n";
+  Fingers hand(500);
+  PointAndClick(PointAndClick(hand, "300 335"), "70 210");  // "Tab  More", "Match"
+  hand.Then("point 60 220").Then("wheel down");             // deathmatch
+  hand.Then("point 60 270");                                // computer snakes
+  for (int snakes = -1; snakes < 7; ++snakes) hand.Then("wheel down");
+  hand.Then("state");
+  PointAndClick(hand, "60 335").Tap(kF1).Then("state", 600).Tap(kUp);
+  hand.Then("set Snakes.4.Name Cat").Then("set Snakes.4.Frags 200", 300).Then("state");
+  hand.Tap(kEnter).Then("state", 600).Then("end");
+  const GameRun run = folder.Play(hand.Text());
+  ASSERT_THAT(run.states, SizeIs(4)) << run.errors;
+  const json& chosen = run.states[0]["More"];
+  EXPECT_EQ(chosen["Page"], "match");
+  EXPECT_EQ(chosen["Match"]["Mode"], "deathmatch");
+  EXPECT_EQ(chosen["Match"]["Computers"], 7);
+  EXPECT_EQ(run.states[1]["GameMode"], "DM");
+  EXPECT_EQ(run.states[1]["NumSnakes"], 8);
+  EXPECT_EQ(run.states[1]["MatchLimit"], 35);
+  EXPECT_EQ(run.states[1]["More"]["Page"], "");
+  std::vector<std::string> drawn;
+  for (const json& text : run.states[2]["Drawn"]) drawn.push_back(text["Text"]);
+  EXPECT_THAT(drawn, testing::Contains("Cat wins the match!"));
+  const json& after = run.states[3];
+  EXPECT_EQ(after["More"]["Page"], "match");
+  EXPECT_EQ(after["More"]["Cursor"], 5);
+  EXPECT_EQ(after["GameMode"], "");
+  EXPECT_EQ(after["NoGameRunning"], true);
+  EXPECT_EQ(after["ScorePage"], 0);
+}
+
+TEST(Menus, AKeyBoundOnThePageSteersNowAndInTheNextRun) {
+  const ProgramFolder folder;
+  const std::string user = (folder.Home() / "user").string();
+  Fingers keys(500);
+  keys.Tap(kTab).Tap(kUp).Tap(kEnter).Tap(kDown, 2).Tap(kEnter).Tap(44).Tap(kTab);
+  keys.Tap(kEnter).Tap(kF1).Tap(kUp).Tap(44).Then("state", 300).Then("end");
+  const GameRun bound = folder.PlayAsShipped(keys.Text(), {"--user", user});
+  const GameRun found = folder.PlayAsShipped("500 state\n500 end", {"--user", user});
+  ASSERT_THAT(bound.states, SizeIs(1)) << bound.errors;
+  ASSERT_THAT(found.states, SizeIs(1)) << found.errors;
+  EXPECT_EQ(bound.states[0]["Snakes"][0]["NextDir"], "Left");
+  EXPECT_EQ(bound.states[0]["Keys"][0]["Left"], found.states[0]["Keys"][0]["Left"]);
+  EXPECT_EQ(found.states[0]["Keys"][0]["Left"].back(), 44);
 }
 
 TEST(Menus, ASteeringKeyStartsALevelAndHasteIsHarmless) {

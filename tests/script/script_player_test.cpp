@@ -66,6 +66,20 @@ TEST(ScriptPlayer, TellsTheWindowInFileOrderOfWhatIsDue) {
   EXPECT_EQ(stage.window.events.size(), 3U);
 }
 
+TEST(ScriptPlayer, TellsOfThePointerOnceInFileOrder) {
+  Stage stage("1 point 3 4\n1 click left\n2 wheel down");
+  stage.YieldAt(1);
+  const auto moved = stage.player.NextPointerEvent();
+  ASSERT_TRUE(moved);
+  EXPECT_EQ(moved->act, PointerAct::kMove);
+  EXPECT_EQ(moved->x, 3);
+  EXPECT_EQ(moved->y, 4);
+  EXPECT_EQ(stage.player.NextPointerEvent()->act, PointerAct::kLeftButton);
+  EXPECT_FALSE(stage.player.NextPointerEvent());
+  stage.YieldAt(2);
+  EXPECT_EQ(stage.player.NextPointerEvent()->act, PointerAct::kWheelDown);
+}
+
 TEST(ScriptPlayer, EndLeavesBeforeLaterCommands) {
   Stage stage("1 shot a.png\n1 end\n1 shot b.png");
   EXPECT_EQ(stage.YieldAt(1), 0);

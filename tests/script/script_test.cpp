@@ -16,13 +16,17 @@ using ::testing::StartsWith;
 
 /// "MICROSECONDS verb code name=value" for every step, then for every answer.
 std::string Listing(const Script& script) {
-  static const std::vector<std::string> kWords = {"down", "up",  "lost",  "gained", "state",
-                                                  "shot", "set", "close", "end"};
+  static const std::vector<std::string> kWords = {"down",  "up",   "pointer", "lost",  "gained",
+                                                  "state", "shot", "set",     "close", "end"};
   std::string list;
   for (const ScriptStep& step : script.steps) {
     list += std::to_string(step.at) + ' ' + kWords.at(static_cast<std::size_t>(step.verb));
     if (step.code != 0) list += ' ' + std::to_string(step.code);
     if (!step.name.empty()) list += ' ' + step.name;
+    if (step.verb == Verb::kPointer) {
+      list += ' ' + std::to_string(static_cast<int>(step.pointer.act)) + ' ' +
+              std::to_string(step.pointer.x) + ',' + std::to_string(step.pointer.y);
+    }
     if (step.verb == Verb::kSet) list += '=' + step.value;
     list += '\n';
   }
@@ -40,6 +44,9 @@ TEST(ParseScript, TakesEveryCommandApart) {
       {"  7\tstate # now\n7 close\n7 end", "7000 state\n7000 close\n7000 end\n"},
       {"1 focus lost\n2 focus  gained ", "1000 lost\n2000 gained\n"},
       {"1 answer yes\n1 answer no\n", "1000 yes\n1000 no\n"},
+      {"1 point 639 479\n1 point  0\t7 # here\n", "1000 pointer 0 639,479\n1000 pointer 0 0,7\n"},
+      {"1 click left\n1 click right \n2 wheel up\n2 wheel down",
+       "1000 pointer 1 0,0\n1000 pointer 2 0,0\n2000 pointer 3 0,0\n2000 pointer 4 0,0\n"},
       {"3 shot a b.png   # kept\n", "3000 shot a b.png\n"},
       {"1 tap 28\n31 state\n31 tap 28\n",
        "1000 down 28\n31000 state\n31000 down 28\n31000 up 28\n61000 up 28\n"},
@@ -83,6 +90,10 @@ TEST(ParseScript, SaysWhereAndWhatIsWrong) {
       {"1: only lower-case", {"1 type God", "1 type a\tb"}},
       {"1: an answer", {"1 answer maybe"}},
       {"1: the focus", {"1 focus"}},
+      {"1: a place is two numbers",
+       {"1 point", "1 point 5", "1 point 640 0", "1 point 0 480", "1 point -1 0", "1 point 1 2 3"}},
+      {"1: a click", {"1 click", "1 click middle"}},
+      {"1: the wheel", {"1 wheel left"}},
       {"1: nothing may follow", {"1 state now", "1 end 0"}},
       {"1: the file", {"1 shot # no file"}},
       {"1: the name", {"1 set"}},

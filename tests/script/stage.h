@@ -7,6 +7,7 @@
 
 #include "ports/terminate.h"
 #include "script/script_player.h"
+#include "support/silent_music.h"
 
 namespace coilrun {
 
@@ -15,18 +16,6 @@ struct HandMovedClock final : Clock {
 
   std::int64_t NowMicros() const override { return now; }
   void Sleep(int milliseconds) override { now += milliseconds * std::int64_t{1000}; }
-};
-
-struct SilentMusic final : MusicOut {
-  double position = 0;
-  double duration = 0;
-
-  bool Load(std::span<const std::uint8_t> /*file*/) override { return true; }
-  void Play(double from) override { position = from; }
-  void Stop() override {}
-  double Duration() const override { return duration; }
-  double Position() const override { return position; }
-  void SetVolume(int /*hundredths*/) override {}
 };
 
 struct ShotList final : PictureSink {

@@ -31,11 +31,11 @@ TEST(MoreSettings, AreReadAndOnlyChangesAreStored) {
   const MoreState before = state.more;
   const auto keysBefore = state.Keys;
   const auto stored = store.values;
-  SaveMoreSettings(state, before, keysBefore, store);
+  SaveMoreSettings(state, {before, keysBefore}, store);
   EXPECT_EQ(store.values, stored);
   state.more.AnyKey = true;
   state.Keys(2).Up = {33};
-  SaveMoreSettings(state, before, keysBefore, store);
+  SaveMoreSettings(state, {before, keysBefore}, store);
   EXPECT_EQ(store.Get("More", "AnyKey"), "True");
   EXPECT_EQ(store.Get("Keys", "2Up"), "33");
   EXPECT_EQ(store.values.size(), stored.size() + 2);
@@ -86,7 +86,7 @@ TEST(MoreSettings, AClassicRunNeitherReadsNorWritesThem) {
   EXPECT_EQ(state.more.Turns, TurnsMode::kLast);
   const MoreState before = state.more;
   state.more.AnyKey = true;
-  SaveMoreSettings(state, before, state.Keys, store);
+  SaveMoreSettings(state, {before, state.Keys}, store);
   EXPECT_EQ(store.values.size(), 1U);
 }
 

@@ -42,6 +42,7 @@ TEST(Coillevel, CheckNamesTheLine) {
   shop.Put("odd.dat", LevelWith("lvlname= Odd\r\n"));
   shop.Put("below.dat", LevelWith("a wall is missing here\r\n_ | | ;\r\n"));
   shop.Put("blank.dat", LevelWith("numYellow= 3 \r\nreqRed=1 2\r\n"));
+  shop.Put("match.dat", LevelWith("MatchLimit=20\r\nMatchLimit=4\r\n"));
   shop.Put("bad.dat", LevelWith("lvlName= Bad\r\nnumRed=301\r\n"));
   shop.Put("worse.dat", LevelWith("numRed=3\r\nnumRed=301\r\n"));
   shop.Put("mended.dat", LevelWith("numRed=301\r\nnumRed=3\r\n"));
@@ -50,6 +51,7 @@ TEST(Coillevel, CheckNamesTheLine) {
       {"odd.dat", 0, "odd.dat:23: ignored"},
       {"below.dat", 0, "below.dat:24: ignored: the map has 22 rows"},
       {"blank.dat", 0, "blank.dat:24: \"1 2\" is read as 12"},
+      {"match.dat", 0, "match.dat:24: ignored: a match's limit"},
       {"bad.dat", 1, "bad.dat:24: more than 300"},
       {"worse.dat", 1,
        "worse.dat:24: \"numRed=\" again: line 23 has no effect\nworse.dat:24: more"},

@@ -4,6 +4,7 @@
 #include <array>
 #include <optional>
 
+#include "content/level_list.h"
 #include "content/lines.h"
 #include "model/numbers.h"
 #include "model/state.h"
@@ -258,6 +259,10 @@ void LevelChecker::CheckUserItem(const KeyDef& def, const LevelValue& value) {
 }
 
 void LevelChecker::CheckNoKey(std::string_view line) {
+  if (line.starts_with(kMatchLimitKey)) {
+    if (!MatchLimitOf(line)) Warn("ignored: a match's limit is a whole number from 5 to 200");
+    return;
+  }
   const std::size_t start = std::min(line.find_first_not_of(" \t"), line.size());
   const std::string_view word = line.substr(start);
   const std::string folded = FoldCase(word);

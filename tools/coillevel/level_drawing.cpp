@@ -5,6 +5,7 @@
 #include "content/archives.h"
 #include "content/load_level.h"
 #include "content/model_packs.h"
+#include "content/quiet_host.h"
 #include "model/shown_model.h"
 #include "platform/disk_files.h"
 #include "platform/folders.h"

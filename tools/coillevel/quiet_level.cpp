@@ -1,7 +1,7 @@
 #include "quiet_level.h"
 
 #include "content/load_level.h"
-#include "quiet_ports.h"
+#include "content/quiet_host.h"
 
 namespace coilrun {
 namespace {
@@ -47,7 +47,7 @@ class OneLevel final : public Files {
 };
 
 /// The level's archives, which are never opened.
-class ClosedArchives final : public Archive {
+class ClosedArchives final : public ClosedArchive {
  public:
   explicit ClosedArchives(OneLevel& files) : files_(files) {}
 
@@ -55,10 +55,6 @@ class ClosedArchives final : public Archive {
     files_.AddUnknownPictures();
     return false;
   }
-  void SetPassword(const std::string& /*password*/) override {}
-  std::optional<std::string> ReadHeader() override { return std::nullopt; }
-  bool ProcessFile(const std::optional<std::string>& /*target*/) override { return false; }
-  void Close() override {}
 
  private:
   OneLevel& files_;

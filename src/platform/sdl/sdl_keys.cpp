@@ -31,6 +31,7 @@ void SdlKeys::Gather(WindowListener& listener) {
         TakeKey(event.key, listener);
         break;
       default:
+        mouse_.Take(event);
         controllers_.Take(event);
         break;
     }
@@ -53,6 +54,7 @@ void SdlKeys::ForgetRecent() {
   SDL_PumpEvents();
   SDL_FlushEvent(SDL_WINDOWEVENT);
   SDL_FlushEvents(SDL_KEYDOWN, SDL_KEYUP);
+  SDL_FlushEvents(SDL_MOUSEMOTION, SDL_MOUSEWHEEL);
   keys_.ReleaseAll();
   window_.Damaged();
 }

@@ -1,5 +1,6 @@
 #include "platform/sdl/sdl_window.h"
 
+#include <algorithm>
 #include <chrono>
 #include <thread>
 #include <utility>
@@ -69,6 +70,13 @@ void SdlWindow::SetIcon(const std::filesystem::path& file) {
 
 bool SdlWindow::IsHidden() const {
   return (SDL_GetWindowFlags(window_.get()) & (SDL_WINDOW_MINIMIZED | SDL_WINDOW_HIDDEN)) != 0;
+}
+
+std::optional<ScreenPlace> SdlWindow::OnScreen(int x, int y) const {
+  int width = 0;
+  int height = 0;
+  SDL_GetWindowSize(window_.get(), &width, &height);
+  return PlaceOnScreen(PictureArea(std::max(1, width), std::max(1, height)), x, y);
 }
 
 void SdlWindow::Flip(ScreenPixels primary) {

@@ -3,10 +3,12 @@
 #include <filesystem>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 
 #include "platform/frame_pacer.h"
+#include "platform/scaling.h"
 #include "platform/sdl/lost_display.h"
 #include "platform/sdl/presenter.h"
 #include "platform/sdl/sdl_clock.h"
@@ -26,6 +28,9 @@ class SdlWindow : public Screen {
   void Damaged() { presenter_->Forget(); }
   /// Calls `save` when the display is lost, then ends the process.
   void SaveWhenLost(std::function<void()> save) { display_.Watch(*window_, std::move(save)); }
+
+  /// The place on the screen that the window shows at this place of it, if any.
+  std::optional<ScreenPlace> OnScreen(int x, int y) const;
 
   void Flip(ScreenPixels primary) override;
   void Present(ScreenPixels primary) override;

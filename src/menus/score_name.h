@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-#include "shell/shell.h"
+#include "game/game.h"
 
 namespace coilrun {
 
@@ -13,6 +13,6 @@ void TypeScoreName(State& state, std::string_view typed);
 /// Removes its last character.
 void ShortenScoreName(State& state);
 /// Stores the name in the table and as the player's own. An empty one stays "Unknown".
-void StoreScoreName(Shell& shell);
+void StoreScoreName(Game& game);
 
 }  // namespace coilrun

@@ -1,4 +1,4 @@
-#include "shell/scan_to_char.h"
+#include "model/scan_to_char.h"
 
 #include <tuple>
 

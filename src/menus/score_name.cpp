@@ -1,4 +1,4 @@
-#include "shell/score_name.h"
+#include "menus/score_name.h"
 
 #include <string>
 
@@ -27,13 +27,13 @@ void ShortenScoreName(State& state) {
   if (!name.empty()) name.pop_back();
 }
 
-void StoreScoreName(Shell& shell) {
-  State& state = shell.state;
+void StoreScoreName(Game& game) {
+  State& state = game.state;
   std::string& name = NameOfEntry(state);
   if (name.empty()) name = kUnknownName;
   state.Snakes(kPlayer).Name = name;
   state.menus.EditsName = false;
-  shell.game.host.SaveSettings();
+  game.host.SaveSettings();
 }
 
 }  // namespace coilrun

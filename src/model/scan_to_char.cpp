@@ -1,4 +1,4 @@
-#include "shell/scan_to_char.h"
+#include "model/scan_to_char.h"
 
 #include "ports/scan_codes.h"
 #include "ports/windows_1252.h"

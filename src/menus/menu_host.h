@@ -1,0 +1,22 @@
+#pragma once
+
+#include "model/more.h"
+
+namespace coilrun {
+
+/// What the menus ask of the rest of the program.
+class MenuHost {
+ public:
+  virtual ~MenuHost() = default;
+
+  /// Leaves the program, by `Terminate`.
+  virtual void LeaveProgram() = 0;
+  /// Keeps the settings of [More] and [Keys] as they stand, to tell what a page changes.
+  virtual void NotePageOpened() = 0;
+  /// Stores what has changed in [More] and [Keys] since then.
+  virtual void StorePage() = 0;
+  /// The keys that person 1 to 4 gets when nobody has changed them.
+  virtual SteeringKeys ShippedKeys(int person) const = 0;
+};
+
+}  // namespace coilrun

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "menus/page.h"
+
+namespace coilrun {
+
+/// Settings beyond the classic game, and the way to further pages.
+Lines MoreLines(MenuContext& menus);
+/// The entry that opens a page.
+int EntryOf(MenuContext& menus, MorePage page);
+
+}  // namespace coilrun
