@@ -60,6 +60,16 @@ class Desktop:
             self.run("xdotool", "keyup", key)
             time.sleep(0.06)
 
+    def click(self, window, x, y, button=1):
+        """Clicks where the window shows this place of the game's screen."""
+        shape = self.run("xdotool", "getwindowgeometry", "--shell", window).stdout
+        size = dict(line.split("=") for line in shape.split())
+        place = str(x * int(size["WIDTH"]) // SIZE[0]), str(y * int(size["HEIGHT"]) // SIZE[1])
+        self.run("xdotool", "mousemove", "--window", window, *place)
+        time.sleep(0.2)
+        self.run("xdotool", "click", str(button))
+        time.sleep(0.4)
+
     def screenshot(self, file):
         self.run("import", "-window", "root", str(file))
         return numpy.asarray(Image.open(file).convert("RGB")).astype(int)
@@ -122,13 +132,22 @@ def play_a_level(desktop, program, folder, shots, faults):
 
 def leave_by_the_menu(desktop, program, folder, shots, faults):
     game = desktop.start([program, "--windowed", "--user", folder / "user"])
-    faults.expect(desktop.window(), "no window appeared for the menu")
+    window = desktop.window()
+    faults.expect(window, "no window appeared for the menu")
     menu = desktop.wait_for_picture(shots / "menu.png")
     time.sleep(0.5)
     desktop.key("Up")
     time.sleep(0.3)
     lit = desktop.screenshot(shots / "menu-exit.png")
     faults.expect((menu != lit).mean() > 0.001, "Up did not move the menu's light")
+    desktop.click(window, 320, 338)
+    pages = desktop.screenshot(shots / "more.png")
+    faults.expect((lit != pages).mean() > 0.1, "a click on \"Tab  More\" opened no page")
+    desktop.click(window, 60, 215)
+    match = desktop.screenshot(shots / "match.png")
+    faults.expect((pages != match).mean() > 0.02, "a click on Match opened no page")
+    desktop.click(window, 60, 215, button=3)
+    desktop.click(window, 60, 215, button=3)
     desktop.key("Return")
     faults.expect(wait_for_end(game) == 0, "Exit did not end the game with 0")
     left = list((folder / "user").rglob("*.bmp")) + list((folder / "share").rglob("gfx/*.bmp"))
