@@ -16,12 +16,12 @@ int Offset(int position) {
 }  // namespace
 
 void Axis::Lay(const FieldAxis& field, int at, bool open) {
-  rowCount_ = 0;
-  AddRow(field, at);
+  *this = {};
   if (open) {
     AddRow(field, field.farEntry);
     AddRow(field, field.nearEntry);
   }
+  AddRow(field, at);
   Link(field, open);
 }
 
@@ -31,7 +31,7 @@ void Axis::AddRow(const FieldAxis& field, int through) {
   for (int r = 0; r < rowCount_; ++r) {
     if (RowAt(r).base == base) return;
   }
-  const int first = rowCount_ == 0 ? 0 : RowAt(rowCount_ - 1).first + RowAt(rowCount_ - 1).count;
+  const int first = count_;
   const int count = (field.end - 1 - base) / kCell + 1;
   for (int i = 0; i < count; ++i) {
     const auto index = static_cast<std::size_t>(first + i);
@@ -41,6 +41,7 @@ void Axis::AddRow(const FieldAxis& field, int through) {
     after_[index] = static_cast<std::int8_t>(first + i + 1);
   }
   rows_[static_cast<std::size_t>(rowCount_++)] = {first, count, base};
+  count_ += count;
 }
 
 void Axis::Link(const FieldAxis& field, bool open) {

@@ -8,8 +8,8 @@
 namespace coilrun {
 
 /// The places on one axis of the field that a head can come to: 20 pixels apart, in up to three
-/// rows. The first row goes through the place where the head stands. An open edge lets a head in
-/// again at another offset, so that there is a row through each of its two entries as well.
+/// rows. An open edge lets a head in again at another offset, so that there is a row through each
+/// of its two entries; another one goes through the place where the head stands.
 class Axis {
  public:
   static constexpr int kMost = 96;
@@ -22,6 +22,8 @@ class Axis {
     int first = 0;
     int count = 0;
     int base = 0;
+
+    bool operator==(const Row&) const = default;
   };
   /// Places of a row, counted within it; none when `last` is smaller.
   struct Run {
@@ -33,6 +35,10 @@ class Axis {
   void Lay(const FieldAxis& field, int at, bool open);
 
   int IndexOf(int position) const;
+  /// Places of all rows; two axes that are laid alike are equal.
+  int Count() const { return count_; }
+  bool operator==(const Axis&) const = default;
+
   int PixelOf(int index) const { return pixel_[static_cast<std::size_t>(index)]; }
   int RowOf(int index) const { return row_[static_cast<std::size_t>(index)]; }
   /// One step towards 0, or away from it; `kOut` beyond a closed edge.
@@ -50,6 +56,7 @@ class Axis {
 
   std::array<Row, kRows> rows_{};
   int rowCount_ = 0;
+  int count_ = 0;
   std::array<std::int16_t, kMost> pixel_{};
   std::array<std::int8_t, kMost> row_{};
   std::array<std::int8_t, kMost> before_{};

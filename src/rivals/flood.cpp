@@ -2,32 +2,34 @@
 
 namespace coilrun {
 
-void Flood::Begin(Ground::Node from, int step) {
+void Flood::Begin(const Ground& ground, const Advance& advance) {
+  ground_ = &ground;
+  advance_ = &advance;
   if (++round_ == 0) {
     entered_.fill(0);
     round_ = 1;
   }
   taken_ = 0;
   queued_ = 0;
-  entered_[static_cast<std::size_t>(from)] = round_;
-  queue_[queued_++] = {from, step};
 }
 
-std::optional<Flood::Visit> Flood::Next(Ground& ground) {
+void Flood::Enter(Ground::Node node, int step, Ground::Node before) {
+  const auto index = static_cast<std::size_t>(node);
+  if (entered_[index] == round_) return;
+  entered_[index] = round_;
+  before_[index] = static_cast<std::int16_t>(before);
+  queue_[queued_++] = {node, step};
+}
+
+std::optional<Flood::Visit> Flood::Next() {
   if (taken_ == queued_) return std::nullopt;
   const Visit visit = queue_[taken_++];
-  for (const Dir dir : kDirections) {
-    const Ground::Node next = ground.Neighbour(visit.node, dir);
-    if (next != Ground::kNowhere) Enter(ground, next, visit.step + 1);
+  const int step = visit.step + 1;
+  for (const Ground::Node next : ground_->Around(visit.node)) {
+    if (next == Ground::kNowhere || !ground_->IsFree(next, step)) continue;
+    if (advance_->IsOurs(next, step)) Enter(next, step, visit.node);
   }
   return visit;
-}
-
-void Flood::Enter(Ground& ground, Ground::Node node, int step) {
-  std::uint16_t& entered = entered_[static_cast<std::size_t>(node)];
-  if (entered == round_ || !ground.IsFree(node, step)) return;
-  entered = round_;
-  queue_[queued_++] = {node, step};
 }
 
 }  // namespace coilrun
