@@ -41,7 +41,7 @@ PlatformOptions OptionsFor(const HostOptions& options, StopSignals& signals) {
 }
 
 int RunProgram(State& state, const Ports& ports, const HostOptions& options) {
-  state.more.isClassic = options.classic;
+  state.more.forRun = {options.classic, options.rivals};
   try {
     Program program(state, ports, COILRUN_VERSION);
     program.Run(options.commandLine);

@@ -26,12 +26,24 @@ std::string SwitchText(MenuContext& menus, int /*subject*/) {
   return YesNo(More(menus).*kSwitch);
 }
 
+void ChangeRivals(MenuContext& menus, LineAct act, int /*subject*/) {
+  const int step = StepOrEnter(act);
+  if (step == 0) return;
+  RivalKind kind = More(menus).Rivals.kinds.front();
+  StepWord(kind, step);
+  More(menus).Rivals.kinds = {kind};
+}
+
 Lines Entries() {
   return {
       {.label = "Match",
        .help = "Choose the mode, the level and the rivals of a game",
        .act = Open,
        .subject = static_cast<int>(MorePage::kMatch)},
+      {.label = "Rivals: ",
+       .value = [](MenuContext& m, int) { return RivalText(More(m).Rivals); },
+       .help = "How well computer snakes play, from the next level on",
+       .act = ChangeRivals},
       {.label = "Turns: ",
        .value = [](MenuContext& m, int) { return std::string{Word(More(m).Turns)}; },
        .help = "Presses between two steps: the last one counts, or they queue up",

@@ -81,6 +81,12 @@ struct SteeringKeys {
   bool operator==(const SteeringKeys&) const = default;
 };
 
+/// What host options ask of one run; nothing: as the settings have it.
+struct RunOptions {
+  bool isClassic = false;  ///< the sections [More] and [Keys] are neither read nor written
+  std::optional<RivalList> rivals = {};
+};
+
 /// The settings of the sections [More] and [Keys], which start at their built-in values, and the
 /// pages that show them.
 struct MoreState {
@@ -101,7 +107,7 @@ struct MoreState {
   GameAsked Asked;
   bool isFromMatchPage = false;  ///< the game that runs was started there
 
-  bool isClassic = false;  ///< the two sections are neither read nor written in this run
+  RunOptions forRun;
 };
 
 /// Presses that wait behind `NextDir`, oldest first.

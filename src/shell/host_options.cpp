@@ -33,13 +33,18 @@ bool TakeFps(HostOptions& options, const std::string& value) {
   return ParseNumber(value, options.fps) && options.fps >= 1 && options.fps <= kMostFps;
 }
 
+bool TakeRivals(HostOptions& options, const std::string& value) {
+  options.rivals = RivalsFromText(value);
+  return options.rivals.has_value();
+}
+
 constexpr std::array<FlagOption, 5> kFlags = {{{"--windowed", &HostOptions::windowed},
                                                {"--classic", &HostOptions::classic},
                                                {"--headless", &HostOptions::headless},
                                                {"--help", &HostOptions::help},
                                                {"--version", &HostOptions::version}}};
 
-constexpr std::array<ValueOption, 6> kValues = {{
+constexpr std::array<ValueOption, 7> kValues = {{
     {"--data", [](HostOptions& options,
                   const std::string& value) { return !(options.data = value)->empty(); }},
     {"--user", [](HostOptions& options,
@@ -49,6 +54,7 @@ constexpr std::array<ValueOption, 6> kValues = {{
     {"--trace", [](HostOptions& options,
                    const std::string& value) { return !(options.trace = value)->empty(); }},
     {"--fps", TakeFps},
+    {"--rivals", TakeRivals},
     {"--seed", [](HostOptions& options,
                   const std::string& value) { return ParseNumber(value, options.seed); }},
 }};
@@ -108,6 +114,8 @@ std::string HelpText() {
          "  --data DIR       the program folder (lvl, gfx.snr, models, music)\n"
          "  --user DIR       where settings and unpacked files are kept\n"
          "  --windowed       play in a window instead of full screen\n"
+         "  --rivals KIND    classic, clever or master computer snakes, for this run; a list\n"
+         "                   (classic,master) deals the kinds out in turn\n"
          "  --classic        play the classic game: ignore the settings in [More] and [Keys]\n"
          "  --headless       no window, no sound, virtual time\n"
          "  --script FILE    the script that plays a headless run (- is standard input)\n"

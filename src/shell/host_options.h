@@ -6,6 +6,8 @@
 #include <variant>
 #include <vector>
 
+#include "model/more.h"
+
 namespace coilrun {
 
 /// What the options that begin with "--" say about the machine the game runs on.
@@ -14,6 +16,7 @@ struct HostOptions {
   std::optional<std::filesystem::path> user;
   bool windowed = false;
   bool classic = false;
+  std::optional<RivalList> rivals;
   bool headless = false;
   std::optional<std::string> script;  ///< "-" reads standard input
   std::optional<std::string> trace;

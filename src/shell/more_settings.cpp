@@ -76,10 +76,7 @@ std::string KeyName(int person, Dir dir) {
       kNames.at(static_cast<std::size_t>(dir) - static_cast<std::size_t>(Dir::kForw)));
 }
 
-}  // namespace
-
-void LoadMoreSettings(State& state, const SettingsStore& store) {
-  if (state.more.isClassic) return;
+void ReadSections(State& state, const SettingsStore& store) {
   VisitMoreSettings(state.more, [&store](std::string_view key, auto& value, Bounds bounds) {
     if (const auto text = store.Get(kMore, key)) Read(value, *text, bounds);
   });
@@ -92,8 +89,16 @@ void LoadMoreSettings(State& state, const SettingsStore& store) {
   }
 }
 
+}  // namespace
+
+void LoadMoreSettings(State& state, const SettingsStore& store) {
+  const RunOptions& forRun = state.more.forRun;
+  if (!forRun.isClassic) ReadSections(state, store);
+  state.more.Rivals = forRun.rivals.value_or(state.more.Rivals);
+}
+
 void SaveMoreSettings(const State& state, const MoreSettings& before, SettingsStore& store) {
-  if (state.more.isClassic) return;
+  if (state.more.forRun.isClassic) return;
   std::vector<std::string> oldTexts;
   VisitMoreSettings(before.more, [&](std::string_view /*key*/, const auto& value,
                                      Bounds /*bounds*/) { oldTexts.push_back(TextOf(value)); });

@@ -21,7 +21,7 @@ constexpr int kRight = kKeyRight;
 constexpr int kEnter = kKeyEnter;
 constexpr int kEscape = kKeyEscape;
 constexpr int kTab = kKeyTab;
-constexpr int kControlsEntry = 5;
+constexpr int kControlsEntry = 6;
 
 struct PagesTest : testing::Test, MenuStage {
   void Open(MorePage page) {
@@ -62,7 +62,9 @@ TEST_F(PagesTest, TabOpensAndClosesAndEscapeGoesBackToTheEntry) {
 }
 
 TEST_F(PagesTest, ValuesChangeAtOnceAndAreStoredWhenThePageIsLeft) {
-  Press({kTab, kDown, kRight, kDown, kEnter, kDown, kLeft});
+  state.more.Rivals.kinds = {RivalKind::kClassic, RivalKind::kMaster};
+  Press({kTab, kDown, kLeft, kDown, kRight, kDown, kEnter, kDown, kLeft});
+  EXPECT_EQ(RivalText(state.more.Rivals), "master");
   EXPECT_EQ(state.more.Turns, TurnsMode::kQueue);
   EXPECT_TRUE(state.more.Confirm);
   EXPECT_TRUE(state.more.AnyKey);

@@ -41,6 +41,22 @@ TEST(MoreSettings, AreReadAndOnlyChangesAreStored) {
   EXPECT_EQ(store.values.size(), stored.size() + 2);
 }
 
+TEST(MoreSettings, OptionsForOneRunComeLastAndAreNotStored) {
+  MemorySettings store;
+  store.Set("More", "Rivals", "master");
+  store.Set("More", "Turns", "queue");
+  const auto stored = store.values;
+  for (const bool isClassic : {false, true}) {
+    State state;
+    state.more.forRun = {isClassic, RivalsFromText("clever,classic")};
+    LoadMoreSettings(state, store);
+    EXPECT_EQ(RivalText(state.more.Rivals), "clever,classic");
+    EXPECT_EQ(state.more.Turns, isClassic ? TurnsMode::kLast : TurnsMode::kQueue);
+    SaveMoreSettings(state, {state.more, state.Keys}, store);
+    EXPECT_EQ(store.values, stored);
+  }
+}
+
 TEST(MoreSettings, WhatCannotBeUsedCountsAsBuiltIn) {
   MemorySettings store;
   const std::pair<const char*, const char*> unusable[] = {{"Turns", "first"},
@@ -81,7 +97,7 @@ TEST(MoreSettings, AClassicRunNeitherReadsNorWritesThem) {
   MemorySettings store;
   store.Set("More", "Turns", "queue");
   State state;
-  state.more.isClassic = true;
+  state.more.forRun.isClassic = true;
   LoadMoreSettings(state, store);
   EXPECT_EQ(state.more.Turns, TurnsMode::kLast);
   const MoreState before = state.more;
