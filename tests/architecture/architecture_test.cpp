@@ -35,7 +35,7 @@ const Edges kMayInclude = {
     {"shell", {"menus", "render", "rivals", "game", "media", "content", "model", "ports"}},
     {"platform", {"ports"}},
     {"main", {"shell", "script", "platform", "ports", "model"}},
-    {"tools", {"kit", "content", "game", "render", "model", "ports", "platform"}},
+    {"tools", {"kit", "shell", "rivals", "content", "game", "render", "model", "ports", "platform"}},
 };
 
 /// Pieces of code that are allowed only in some places, given as the beginnings of paths in the
@@ -136,7 +136,7 @@ TEST(Architecture, TheWalkSeesEveryKindOfViolation) {
       {"src/main.cpp", "#include \"game/movement.h\""},
       {"src/script/script.cpp", "#include \"script.h\""},
       {"src/extra/thing.cpp", "int x;"},
-      {"tools/coilpack/main.cpp", "#include \"shell/shell.h\""},
+      {"tools/coilpack/main.cpp", "#include \"menus/page.h\""},
       {"src/platform/headless/clock.cpp", "#include <SDL.h>"},
       {"src/shell/pump.cpp", "  SDL_Delay(10);"},
       {"src/content/archives.cpp", "#include <archive_entry.h>"},
