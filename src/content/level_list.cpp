@@ -23,7 +23,7 @@ bool IsDigit(char character) {
   return character >= '0' && character <= '9';
 }
 
-/// Takes a run of digits off a text, without the zeros in front.
+/// Takes a run of digits off a text and returns it without leading zeros.
 std::string_view TakeNumber(std::string_view& text) {
   std::size_t size = 0;
   while (size < text.size() && IsDigit(text[size])) ++size;

@@ -40,7 +40,7 @@ class QuietHost : public LoaderHost {
   State& state_;
 };
 
-/// Archives that nobody looks into.
+/// Archives that are never opened.
 class ClosedArchive : public Archive {
  public:
   bool Open(const std::string& /*path*/) override { return false; }

@@ -13,7 +13,7 @@ constexpr std::array kDirections = {Dir::kForw, Dir::kBack, Dir::kLeft, Dir::kRi
 constexpr int kPerPerson = static_cast<int>(kDirections.size());
 constexpr std::array<std::string_view, kPerPerson> kNames = {"Up", "Down", "Left", "Right"};
 
-/// A direction of a person as the subject of a line, and back.
+/// Turns a person's direction into the subject of a line, and back.
 int SubjectOf(int person, int direction) {
   return (person - 1) * kPerPerson + direction;
 }
@@ -36,7 +36,7 @@ bool HoldsKey(const std::vector<int>& keys, int key) {
   return std::find(keys.begin(), keys.end(), key) != keys.end();
 }
 
-/// Another line that has one of this line's keys too; -1 for none.
+/// Another line that also has one of this line's keys; -1 for none.
 int RivalOf(State& state, int subject) {
   const auto& keys = KeysOfLine(state, subject);
   for (int other = 0; other < PeopleInPlay(state) * kPerPerson; ++other) {
@@ -48,7 +48,7 @@ int RivalOf(State& state, int subject) {
   return -1;
 }
 
-/// Lines come in the order of their subjects.
+/// Relies on the lines being in the order of their subjects.
 bool IsUnderCursor(const State& state, int subject) {
   return state.more.Cursor == subject + 1;
 }

@@ -6,7 +6,7 @@
 
 namespace coilrun {
 
-/// What is written on a key, in capitals for letters; "key N" for one without a name.
+/// What is written on a key, with letters in capitals; "key N" for one without a name.
 std::string KeyName(int scanCode, KeyboardLayout layout);
 
 }  // namespace coilrun

@@ -8,20 +8,20 @@
 
 namespace coilrun {
 
-/// The levels that a match can be played in. They are looked at when they are first needed.
+/// The levels that a match can be played in. They are read when they are first needed.
 class LevelChoice {
  public:
   explicit LevelChoice(Files& files) : files_(files) {}
 
-  /// Every level of the lvl folder that loads.
+  /// Every level in the lvl folder that loads.
   const std::vector<LevelOutline>& All();
-  /// The first of them, without a look at the others; nothing when there is none.
+  /// The first of them, without reading the others; nothing when there is none.
   std::optional<LevelOutline> First();
-  /// The level of this file; null when there is none that loads.
+  /// The level in this file; null when it does not load.
   const LevelOutline* Find(const std::string& file);
   /// A level as it would begin, for its picture; null when it does not load.
   const State* FieldOf(const std::string& file);
-  /// The folder is looked at anew.
+  /// Makes the next call read the folder again.
   void Forget();
 
  private:

@@ -17,7 +17,7 @@ constexpr std::array<std::string_view, 4> kEntryHelp = {
     "Start a new game", "Modify game options", "Show high score table", "Exit this cool game"};
 constexpr std::size_t kTickerLength = 71;
 
-/// The lit button shows one pass after the cursor has moved.
+/// Lights the entry under the cursor, which shows one pass later.
 void LightEntry(MenuState& menus) {
   menus.EntryLit = {};
   if (menus.MainCursor <= 0) menus.MainCursor = kExit;
@@ -27,7 +27,8 @@ void LightEntry(MenuState& menus) {
     menus.StatusText = kEntryHelp[static_cast<std::size_t>(menus.MainCursor - 1)];
 }
 
-/// One character a step of the ticker's timer; the last character of the text is never reached.
+/// Moves the ticker on by one character per step of its timer; it never reaches the text's last
+/// one.
 void AdvanceTicker(State& state) {
   if (state.timers.ScrollNext.Enabled) return;
   MenuState& menus = state.menus;

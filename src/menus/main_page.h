@@ -6,9 +6,9 @@ namespace coilrun {
 
 /// One pass of the main page.
 void MainPage(MenuContext& menus);
-/// A key on the main page; Enter carries out the entry under the cursor.
+/// Takes a key on the main page; Enter carries out the entry under the cursor.
 void MainPageKey(MenuContext& menus, int key);
-/// Number of the entry at a place of the screen; 0 for none.
+/// The number of the entry at a place on the screen; 0 for none.
 int MainEntryAt(Point place);
 
 }  // namespace coilrun

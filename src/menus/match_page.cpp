@@ -32,19 +32,19 @@ MatchMode AskedMode(const GameAsked& asked) {
   return asked.HuntingMode ? MatchMode::kHunting : MatchMode::kDeathmatch;
 }
 
-/// What wins a match of this mode where the level says nothing.
+/// What wins a match in this mode when the level says nothing.
 int LimitOf(const State& state, MatchMode mode) {
   const GameAsked& asked = state.more.Asked;
   if (mode == AskedMode(asked) && asked.MatchLimit > 1) return asked.MatchLimit;
   return UsualMatchLimit(mode == MatchMode::kHunting);
 }
 
-/// Computer snakes that find a start beside the people's.
+/// How many computer snakes have a start besides the people's.
 int MostComputers(const State& state, const LevelOutline& level) {
   return std::max(level.starts - PeopleInPlay(state), 0);
 }
 
-/// Takes over what the level suggests, and no more rivals than it has starts for.
+/// Adopts what the level suggests, and no more rivals than it has starts for.
 void FitTo(State& state, const LevelOutline* level) {
   MatchChoice& match = state.more.Match;
   int limit = LimitOf(state, match.Mode);
@@ -82,7 +82,7 @@ void ChangeComputers(MenuContext& menus, LineAct act, int /*subject*/) {
   computers = std::clamp(computers + StepOrEnter(act), -1, most);
 }
 
-/// To the next limit by fives.
+/// Moves to the next limit, by fives.
 void ChangeLimit(MenuContext& menus, LineAct act, int /*subject*/) {
   const int step = StepOrEnter(act);
   if (step == 0) return;

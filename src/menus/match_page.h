@@ -4,14 +4,14 @@
 
 namespace coilrun {
 
-/// Which game is played next, and its start.
+/// The choice of the next game, and its start.
 Lines MatchLines(MenuContext& menus);
-/// The level under choice: its picture, and what it cannot give.
+/// Draws the chosen level: its picture, and what it cannot offer.
 void DrawMatchLevel(MenuContext& menus);
 
-/// The level folder is looked at anew; a level that is no more there gives way to the first.
+/// Reads the level folder again; if the chosen level is gone, the first one takes its place.
 void LookAtLevels(MenuContext& menus);
-/// What the page shows first: the command line's mode, the first level.
+/// Chooses what the page shows first: the command line's mode and the first level.
 void ChooseFirstMatch(State& state, LevelChoice& levels);
 
 }  // namespace coilrun

@@ -9,13 +9,13 @@ class MenuHost {
  public:
   virtual ~MenuHost() = default;
 
-  /// Leaves the program, by `Terminate`.
+  /// Leaves the program by throwing `Terminate`.
   virtual void LeaveProgram() = 0;
-  /// Keeps the settings of [More] and [Keys] as they stand, to tell what a page changes.
+  /// Remembers the settings of [More] and [Keys] as they are, to know what a page changes.
   virtual void NotePageOpened() = 0;
   /// Stores what has changed in [More] and [Keys] since then.
   virtual void StorePage() = 0;
-  /// The keys that person 1 to 4 gets when nobody has changed them.
+  /// The keys of person 1 to 4 when nobody has changed them.
   virtual SteeringKeys ShippedKeys(int person) const = 0;
 };
 

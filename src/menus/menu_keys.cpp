@@ -11,7 +11,7 @@
 namespace coilrun {
 namespace {
 
-/// What a controller's direction does in the menus.
+/// The arrow key that a controller's direction stands for in the menus.
 int AsArrow(int key) {
   constexpr std::array<int, kPadDirections> kArrows = {kKeyUp, kKeyDown, kKeyLeft, kKeyRight};
   if (key < kFirstPadCode) return key;

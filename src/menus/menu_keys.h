@@ -4,9 +4,9 @@
 
 namespace coilrun {
 
-/// A key while the menus are shown.
+/// Takes a key while the menus are shown.
 void MenuKey(MenuContext& menus, int key);
-/// Escape on a page beside the main one; false where there is nothing to leave.
+/// Escape on a page other than the main one; false when there is nothing to leave.
 bool LeavePage(MenuContext& menus);
 
 }  // namespace coilrun

@@ -16,7 +16,7 @@ struct Page {
   MorePage page;
   MorePage parent;
   Lines (*lines)(MenuContext& menus);
-  /// What is drawn besides; null for nothing.
+  /// Draws what the page has besides its lines; null for nothing.
   void (*decorate)(MenuContext& menus);
 };
 

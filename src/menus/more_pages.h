@@ -4,15 +4,15 @@
 
 namespace coilrun {
 
-/// Opens a page beside the classic ones with the cursor on an entry.
+/// Opens one of the pages that are not classic, with the cursor on an entry.
 void OpenPage(MenuContext& menus, MorePage page, int cursor = 1);
-/// Escape: one page back, to the entry that the page was opened from.
+/// Goes one page back (Escape), to the entry that the page was opened from.
 void GoBack(MenuContext& menus);
 
-/// One pass of the page that is open.
+/// One pass of the open page.
 void ShowMorePage(MenuContext& menus);
 void MorePageKey(MenuContext& menus, int key);
-/// The lines of the page that is open.
+/// The lines of the open page.
 Lines MorePageLines(MenuContext& menus);
 
 }  // namespace coilrun

@@ -20,7 +20,7 @@ double ShownGlobalSpeed(const State& state) {
                                 : int{state.Snakes(kPlayer).BaseInterval};
 }
 
-/// Name and author of the pack that a model is shown with; "" without any pack.
+/// Name and author of the pack that a model is shown with; "" if there are no packs.
 std::string ModelText(const State& state, int model) {
   const int shown = ShownModel(state, model);
   if (!state.ModelPacks.Holds(shown)) return {};

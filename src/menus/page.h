@@ -8,7 +8,7 @@
 
 namespace coilrun {
 
-/// What a key asks of the line under the cursor.
+/// What a key asks the line under the cursor to do.
 enum class LineAct : std::uint8_t { kNone, kEnter, kLeft, kRight, kEmpty };
 
 /// One line of a page.
@@ -16,7 +16,7 @@ struct Line {
   Point at = {};
   int width = 300;
   std::string_view label = {};
-  /// What stands behind the label; null for nothing.
+  /// What stands after the label; null for nothing.
   std::string (*value)(MenuContext& menus, int subject) = nullptr;
   std::string_view help = {};
   void (*act)(MenuContext& menus, LineAct act, int subject) = nullptr;
@@ -33,20 +33,20 @@ void DrawLines(MenuContext& menus, const Lines& lines);
 /// Draws the line under the cursor again, lit.
 void DrawLit(MenuContext& menus, const Line& line);
 
-/// Number, from 1, of the line that stands at a place of the screen; 0 for none.
+/// The number, from 1, of the line at a place on the screen; 0 for none.
 int LineAt(const Lines& lines, Point place);
 
-/// A cursor that leaves its lines comes back at the other end.
+/// A cursor that moves past its lines comes back in at the other end.
 inline int Wrapped(int cursor, int lines) {
   if (cursor < 1) return lines;
   return cursor > lines ? 1 : cursor;
 }
 
-/// -1 for Left, 1 for Right, else 0.
+/// -1 for Left, 1 for Right, otherwise 0.
 inline int StepOf(LineAct act) {
   return static_cast<int>(act == LineAct::kRight) - static_cast<int>(act == LineAct::kLeft);
 }
-/// The same, and Enter acts as Right.
+/// The same, but Enter counts as Right.
 inline int StepOrEnter(LineAct act) {
   return act == LineAct::kEnter ? 1 : StepOf(act);
 }

@@ -4,10 +4,10 @@
 
 namespace coilrun {
 
-/// Whether Enter has to be pressed once more, because a game that runs would be given up; asks the
+/// Whether Enter has to be pressed once more because it would give up a running game; asks the
 /// first time.
 bool AsksFirst(State& state);
-/// Another key than Enter, or another line, takes the question back.
+/// Withdraws the question, because of a key other than Enter or a move to another line.
 void TakeQuestionBack(MenuState& menus);
 
 }  // namespace coilrun

@@ -4,7 +4,7 @@
 
 namespace coilrun {
 
-/// Moves a value on or back in the list of its words, round at the ends.
+/// Moves a value forwards or back in the list of its words, wrapping around at the ends.
 template <typename Enum>
 void StepWord(Enum& value, int by) {
   const int count = static_cast<int>(kWords<Enum>.size());

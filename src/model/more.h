@@ -61,7 +61,7 @@ struct MatchChoice {
 /// The entry of the match page that starts the game.
 inline constexpr int kMatchPageStart = 5;
 
-/// What the command line asks of every game.
+/// What the command line asks for in every game.
 struct GameAsked {
   coilrun::GameMode GameMode = coilrun::GameMode::kSingle;
   bool HuntingMode = false;
@@ -105,7 +105,7 @@ struct MoreState {
   Int16 KeepReplays = 50;
   MatchChoice Match;
   GameAsked Asked;
-  bool isFromMatchPage = false;  ///< the game that runs was started there
+  bool isFromMatchPage = false;  ///< the running game was started there
 
   RunOptions forRun;
 };

@@ -6,9 +6,9 @@
 
 namespace coilrun {
 
-/// What counts in a match: a snake's length when hunting, else its frags.
+/// What counts in a match: a snake's length when hunting, otherwise its frags.
 int ReachedInMatch(const State& state, int snake);
-/// The snakes in play, the best first; of those that have reached the same, who died less.
+/// The snakes in play, the best first; among equals, the one that died less often.
 std::vector<int> Ranking(const State& state);
 
 }  // namespace coilrun

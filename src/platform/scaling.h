@@ -44,7 +44,7 @@ struct Canvas {
 /// number if that fills the window well, otherwise as large as fits.
 Area PictureArea(int windowWidth, int windowHeight);
 
-/// The pixel of the screen that is shown at a place of the window; nothing beside the picture.
+/// The pixel of the screen that is shown at a place in the window; nothing outside the picture.
 std::optional<ScreenPlace> PlaceOnScreen(const Area& picture, int x, int y);
 
 /// The screen rows that differ between two pictures; an empty range when none does.

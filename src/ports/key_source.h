@@ -35,7 +35,7 @@ class KeySource {
   /// Brings the snapshot up to date with at most one change per key, so that a short tap is seen
   /// first down and then up.
   virtual void ReadKeys(KeySnapshot& keys) = 0;
-  /// Takes the oldest thing that the pointer did and that has not been told yet.
+  /// Takes the oldest thing that the pointer did and that has not been taken yet.
   virtual std::optional<PointerEvent> NextPointerEvent() = 0;
 };
 

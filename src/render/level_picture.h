@@ -15,10 +15,10 @@ class LevelPicture {
   LevelPicture(PictureLoader& loader, const StandardPictures& standard, const ModelPictures& models,
                ItemPictures& items);
 
-  /// Draws a level with its top left at `x`, `y`. The picture is made anew for a level of another
-  /// name.
+  /// Draws a level with its top left at `x`, `y`. The picture is made again only for a level with
+  /// another name.
   void Draw(Surface& target, const State& level, const std::string& name, int x, int y);
-  /// The next level is drawn anew, whatever its name.
+  /// Makes the next picture again, whatever the level's name.
   void Forget() { name_.clear(); }
 
  private:

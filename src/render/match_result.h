@@ -5,7 +5,7 @@
 
 namespace coilrun {
 
-/// The end of a match: who has won, above the table of all snakes in play.
+/// Draws the end of a match: who has won, above the table of all snakes in play.
 void DrawMatchResult(const State& state, Canvas& canvas, TextPainter& text);
 
 }  // namespace coilrun

@@ -53,7 +53,7 @@ MenuPages::MenuPages(const State& state, Canvas& canvas, const StandardPictures&
 
 void MenuPages::DrawMainPage() {
   canvas_.DrawWhole(standard_(Standard::kMenu));
-  // Buttons reach into the next one's place: the lit one comes last, over its neighbours.
+  // Buttons overlap the next one: the lit one is drawn last, over its neighbours.
   for (const Button& button : kButtons) DrawButton(button.normal, button.y);
   for (std::size_t i = 0; i < kButtons.size(); ++i) {
     if (state_.menus.EntryLit(static_cast<int>(i) + 1))

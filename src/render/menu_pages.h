@@ -13,14 +13,14 @@
 
 namespace coilrun {
 
-/// How a text of a page looks.
+/// How a text on a page looks.
 enum class TextLook : std::uint8_t { kPlain, kDimmed, kLit, kWarning };
 
 /// The words "Tab  More" on the main page.
 inline constexpr Rect kMoreText{290, 330, 370, 348};
 
-/// The pages of the menus, drawn from the state in pieces: what changes between the pieces (cursor,
-/// lit entry, ticker, values) is the caller's.
+/// The menu pages, drawn from the state in pieces: what changes between the pieces (cursor, lit
+/// entry, ticker, values) is up to the caller.
 class MenuPages {
  public:
   MenuPages(const State& state, Canvas& canvas, const StandardPictures& standard,
@@ -29,16 +29,16 @@ class MenuPages {
 
   /// Main page: background, buttons, the lit entry with its banana, status line and version.
   void DrawMainPage();
-  /// The credits ticker and the way to further pages, last on the main page.
+  /// The credits ticker and the hint to further pages; comes last on the main page.
   void DrawMainPageFoot();
 
   void DrawOptionsBackground();
   /// The options page's background with the title of another page.
   void DrawPageBackground(MorePage page);
   void DrawText(std::string_view text, Point at, TextLook look);
-  /// Head, body and tail of the player's model, on the options page.
+  /// The head, body and tail of the player's model, on the options page.
   void DrawModelPreview();
-  /// Status line and version, last on a page.
+  /// Status line and version; comes last on a page.
   void DrawStatus(std::string_view status);
 
   /// The whole high-score page.
@@ -58,7 +58,7 @@ class MenuPages {
   std::array<NamedPicture, 5> titles_;  ///< by page
 };
 
-/// Colour of step 0 to 60 of the menus' fades.
+/// The colour of step 0 to 60 in the fades of the menus.
 Color FadeColor(int step);
 
 }  // namespace coilrun

@@ -32,7 +32,7 @@ void DropLast(std::string& text) {
   if (!text.empty()) text.pop_back();
 }
 
-/// Where the player's keys and controllers steer to; `kNone` for any other key.
+/// Where one of the player's keys or a controller steers; `kNone` for any other key.
 Dir SteeringOf(const State& state, int key) {
   constexpr std::array kDirections = {Dir::kForw, Dir::kBack, Dir::kLeft, Dir::kRight};
   if (key >= kFirstPadCode) {
@@ -51,7 +51,7 @@ void PlayKey(State& state, int key) {
   state.shell.WaitingForStart = false;
 }
 
-/// Enter, Space and the steering keys close the level screen, when the player wants it so.
+/// Enter, Space and the steering keys close the level screen if the player wants that.
 void LevelScreenKey(State& state, int key) {
   ShellState& now = state.shell;
   if (!state.more.AnyKey || !now.ShowLevelScreen || now.InMenu || now.WaitingForKey) return;
@@ -115,7 +115,7 @@ void FunctionKey(ShellState& shell, int key) {
   if (key == kKeyPause && !shell.InMenu) shell.IsPause = !shell.IsPause;
 }
 
-/// Between the game and the menus.
+/// Switches between the game and the menus.
 void LeaveOrResumeGame(ShellState& shell) {
   if (shell.WaitingForKey) shell.WaitAborted = true;
   shell.IsPause = false;
@@ -159,7 +159,7 @@ void ReadHeldKeys(Shell& shell) {
   }
 }
 
-/// On the pages of the menus its buttons and its wheel are keys.
+/// On the menu pages, its buttons and its wheel act as keys.
 void ReadPointer(Shell& shell) {
   while (const auto event = shell.ports.keys.NextPointerEvent()) {
     const ShellState& now = shell.state.shell;

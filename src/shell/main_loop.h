@@ -4,7 +4,7 @@
 
 namespace coilrun {
 
-/// Brings up the machine, loads the pictures and the start level, and runs the main loop until
+/// Starts up the machine, loads the pictures and the start level, and runs the main loop until
 /// `Running` is cleared.
 void RunGame(Shell& shell);
 

@@ -19,8 +19,8 @@
 
 namespace coilrun {
 
-/// The program on the machine that the ports make: ties the folders together and answers what the
-/// lower ones ask upwards.
+/// The program on the machine that the ports provide: ties the folders together and implements what
+/// the lower ones call upwards.
 class Program final : private GameHost,
                       private LoaderHost,
                       private MenuHost,
@@ -73,7 +73,7 @@ class Program final : private GameHost,
   LevelChoice levels_;
   MenuContext menus_;
   Shell shell_;
-  MoreSettings beforePage_;  ///< as they were when the open page was opened
+  MoreSettings beforePage_;  ///< the settings when the open page was opened
 };
 
 }  // namespace coilrun

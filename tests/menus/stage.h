@@ -33,7 +33,7 @@ struct RecordingScreen final : Screen {
   bool pointerShown = false;
 };
 
-/// The menus over a program folder with levels, and nothing running.
+/// The menus over a program folder with levels, with no game running.
 struct MenuStage : Stage {
   MenuStage() {
     const auto put = [this](const std::string& file, const std::string& starts,
@@ -58,7 +58,7 @@ struct MenuStage : Stage {
       }
     }
   }
-  /// A pass of the menus, as they are shown.
+  /// One pass of the menus, the way they run.
   void Pass() {
     pump.onYield = [this] { state.shell.InMenu = false; };
     ShowMenus(menus);

@@ -90,7 +90,7 @@ TEST(Menus, AGameIsGivenUpOnlyByTwoEnters) {
   EXPECT_EQ(run.states[3]["InMenu"], false);
 }
 
-/// The mouse on the pages, from a place to the next.
+/// Moves the mouse to one place after another on the pages.
 Fingers& PointAndClick(Fingers& hand, const std::string& place) {
   return hand.Then("point " + place).Then("click left", 200);
 }

@@ -279,7 +279,7 @@ void LevelChecker::CheckNoKey(std::string_view line) {
   }
 }
 
-/// What the last line of a kind says counts: an earlier one may ask for too many.
+/// Only the last line of a kind counts: earlier ones may ask for too many items.
 void LevelChecker::CheckItemCounts() {
   for (const auto& [key, number] : itemCounts_) {
     line_ = lines_.keys[key];

@@ -3,7 +3,7 @@
 namespace coilrun {
 namespace {
 
-/// More than these are waiting only while nobody asks.
+/// More events than this pile up only while nobody asks for them.
 constexpr std::size_t kMostWaiting = 256;
 
 }  // namespace

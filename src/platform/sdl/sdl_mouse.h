@@ -13,9 +13,9 @@ class SdlMouse {
  public:
   explicit SdlMouse(const SdlWindow& window) : window_(window) {}
 
-  /// Notes what the mouse did; other events are passed over.
+  /// Notes what the mouse did; other events are ignored.
   void Take(const SDL_Event& event);
-  /// The oldest thing noted that has not been taken yet.
+  /// The oldest noted event that has not been taken yet.
   std::optional<PointerEvent> Next();
 
  private:

@@ -29,7 +29,7 @@ class SdlWindow : public Screen {
   /// Calls `save` when the display is lost, then ends the process.
   void SaveWhenLost(std::function<void()> save) { display_.Watch(*window_, std::move(save)); }
 
-  /// The place on the screen that the window shows at this place of it, if any.
+  /// The place on the screen that the window shows at this place in it, if any.
   std::optional<ScreenPlace> OnScreen(int x, int y) const;
 
   void Flip(ScreenPixels primary) override;
