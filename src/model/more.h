@@ -81,7 +81,7 @@ struct SteeringKeys {
   bool operator==(const SteeringKeys&) const = default;
 };
 
-/// What host options ask of one run; nothing: as the settings have it.
+/// What the host options ask for in this run; nothing leaves it to the settings.
 struct RunOptions {
   bool isClassic = false;  ///< the sections [More] and [Keys] are neither read nor written
   std::optional<RivalList> rivals = {};

@@ -12,7 +12,7 @@ struct MoreSettings {
 };
 
 /// Reads the sections [More] and [Keys]. A value that cannot be used counts as the built-in one. A
-/// classic run keeps all built-in values. Host options for this run come last.
+/// classic run keeps all built-in values. The host options of this run override both.
 void LoadMoreSettings(State& state, const SettingsStore& store);
 /// Stores what differs from `before`, so that only the player's own changes are stored.
 void SaveMoreSettings(const State& state, const MoreSettings& before, SettingsStore& store);

@@ -35,7 +35,8 @@ const Edges kMayInclude = {
     {"shell", {"menus", "render", "rivals", "game", "media", "content", "model", "ports"}},
     {"platform", {"ports"}},
     {"main", {"shell", "script", "platform", "ports", "model"}},
-    {"tools", {"kit", "shell", "rivals", "content", "game", "render", "model", "ports", "platform"}},
+    {"tools",
+     {"kit", "shell", "rivals", "content", "game", "render", "model", "ports", "platform"}},
 };
 
 /// Pieces of code that are allowed only in some places, given as the beginnings of paths in the

@@ -19,8 +19,8 @@ namespace {
 
 constexpr int kUnproven = 1;
 constexpr int kWrongUse = 2;
-constexpr int kPatience = 900;  ///< seconds of play
-constexpr int kMostGames = 20;  ///< until a level is completed
+constexpr int kPatience = 900;  ///< in seconds of play
+constexpr int kMostGames = 20;  ///< that a level is tried at most
 
 struct Wish {
   std::string data;
@@ -46,7 +46,7 @@ LevelProof PlayOnce(const Wish& wish, const std::string& level, std::uint64_t se
     Program program(*state, ports, "proof");
     program.Run("/L=" + level);
   } catch (const Terminate&) {
-    // The player has seen enough.
+    // The game ended the run, and the player knows how it went.
   }
   return player.Result();
 }
@@ -58,7 +58,7 @@ struct Row {
   int score = 0;  ///< of the last game that completed it
 };
 
-/// Plays until the level was completed as often as there are seeds.
+/// Plays until the level has been completed as often as there are seeds.
 Row Prove(const Wish& wish, const std::string& level) {
   Row row;
   const auto wanted = static_cast<std::size_t>(wish.seeds);
@@ -73,7 +73,7 @@ Row Prove(const Wish& wish, const std::string& level) {
   return row;
 }
 
-/// One row of a Markdown table.
+/// Prints one row of a Markdown table.
 void Print(const std::string& level, const Row& row) {
   const bool completed = !row.seconds.empty();
   const double median = completed ? row.seconds[row.seconds.size() / 2] : 0;
@@ -89,7 +89,7 @@ void PrintHeader() {
       "| --- | --- | --- | --- | --- | --- |\n");
 }
 
-/// The levels of the campaign, which begins with lvl1.dat.
+/// The levels of the campaign, which begins at lvl1.dat.
 std::vector<std::string> CampaignLevels(const Wish& wish) {
   const auto made = MakeHeadlessPlatform(OptionsFor(wish));
   if (!made.platform) throw std::runtime_error(made.problem);
@@ -121,8 +121,8 @@ int Main(const std::vector<std::string>& arguments) {
   Wish wish;
   if (!Parse(arguments, wish)) {
     std::cerr << "usage: coilproof [--data FOLDER] [--seeds N] [LEVEL]...\n"
-                 "Plays levels of the program folder (lvl1.dat; all of the campaign when none is "
-                 "named) by keys alone until each is completed N times.\n";
+                 "Plays levels of the program folder (such as lvl1.dat; the whole campaign when "
+                 "none is named) by keys alone until each is completed N times.\n";
     return kWrongUse;
   }
   if (wish.levels.empty()) wish.levels = CampaignLevels(wish);

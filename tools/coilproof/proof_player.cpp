@@ -71,7 +71,7 @@ void ProofPlayer::AnswerWait() {
   key_ = kKeyEnter;
 }
 
-/// Decides once a step, as soon as the snake has made the one before.
+/// Decides once per step, as soon as the snake has made the previous one.
 void ProofPlayer::Steer() {
   const SnakeRec& self = state_.Snakes(kPlayer);
   const Point place{self.X, self.Y};

@@ -8,17 +8,17 @@
 
 namespace coilrun {
 
-/// How a level went.
+/// How a game of a level went.
 struct LevelProof {
   bool completed = false;
-  double seconds = 0;  ///< of play: without waits and level screens
+  double seconds = 0;  ///< of play, without waits and level screens
   int deaths = 0;
   int score = 0;
 };
 
-/// Plays the level that a run begins with by keys alone, finding its way like a computer snake.
+/// Plays the level that a run begins with by keys alone, and finds its way like a computer snake.
 /// Leaves the program with `Terminate` when the level is completed, when the game is over or when
-/// patience ends.
+/// its patience runs out.
 class ProofPlayer final : public KeySource, public MessageBox {
  public:
   /// `patience` is in seconds of play.
@@ -31,7 +31,7 @@ class ProofPlayer final : public KeySource, public MessageBox {
   void Serve() override {}
   void ReadKeys(KeySnapshot& keys) override;
   std::optional<PointerEvent> NextPointerEvent() override { return std::nullopt; }
-  /// Goes on, whatever it is about.
+  /// Goes on, whatever the box says.
   BoxAnswer Show(const std::string& title, const std::string& text, BoxButtons buttons) override;
 
  private:
@@ -48,7 +48,7 @@ class ProofPlayer final : public KeySource, public MessageBox {
   LevelProof result_;
   std::int64_t lastNow_ = 0;
   Point lastPlace_{-1, -1};
-  int key_ = 0;  ///< to be pressed at the next look
+  int key_ = 0;  ///< the one to press when keys are read next
   bool pressed_ = false;
 };
 
