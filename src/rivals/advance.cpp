@@ -7,7 +7,8 @@
 namespace coilrun {
 namespace {
 
-/// Heads are followed so far: nobody knows where they turn after that, and who fears more starves.
+/// How many steps heads are followed: nobody knows where they turn later, and fearing more means
+/// starving.
 constexpr int kFarthest = 16;
 
 }  // namespace
@@ -26,7 +27,7 @@ void Advance::Look(const Ground& ground, const State& state, int snake) {
   Spread(ground);
 }
 
-/// Others may step just before: what is free for them a step later counts as free.
+/// Others may step just before us: what is free for them one step later counts as free.
 void Advance::Spread(const Ground& ground) {
   for (std::size_t taken = 0; taken < queued_; ++taken) {
     const int step = ArrivalAt(queue_[taken]) + 1;

@@ -4,15 +4,16 @@
 
 namespace coilrun {
 
-/// How soon other heads can come to each place: a flood from all of them at once, a place a step.
+/// How soon other heads can come to each place: a flood from all of them at once, one place per
+/// step.
 class Advance {
  public:
-  /// Heads of other snakes that can kill are looked at; `ground` is as `snake` meets it.
+  /// Looks at the heads of other snakes that can kill; `ground` is the field as `snake` meets it.
   void Look(const Ground& ground, const State& state, int snake);
 
   /// True when no other head can be there before `step`.
   bool IsOurs(Ground::Node node, int step) const { return ArrivalAt(node) >= step; }
-  /// Steps in which the nearest other head can be there; large when none can.
+  /// In how many steps the nearest other head can be there; a large number when none can.
   int ArrivalAt(Ground::Node node) const { return arrival_[static_cast<std::size_t>(node)]; }
 
  private:

@@ -6,8 +6,8 @@
 namespace coilrun {
 namespace {
 
-/// Worth of the coloured items that a mode rewards: blue ones bring frags or points, and in hunting
-/// all are one cell.
+/// What the coloured items are worth in a mode: blue ones bring frags or points, and in hunting
+/// every item is worth one cell.
 struct Tastes {
   int yellow;
   int red;

@@ -7,7 +7,7 @@
 
 namespace coilrun {
 
-/// What a snake likes to eat, and how many steps it would go further for it.
+/// What a snake likes to eat, and how many steps further it would go for it.
 class Appetite {
  public:
   /// The items on the field that are worth eating for `snake` in this mode of the game.

@@ -5,10 +5,10 @@
 namespace coilrun {
 namespace {
 
-/// Keeps the dividends of positions near the field positive; a multiple of the step.
+/// A multiple of the step that keeps positions near the field positive when they are divided.
 constexpr int kFarOff = 100 * kCell;
 
-/// Offset of a position within its step, 0 to 19, also left of 0.
+/// The offset of a position within its step, 0 to 19 even left of 0.
 int Offset(int position) {
   return (position % kCell + kCell) % kCell;
 }

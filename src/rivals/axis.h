@@ -8,8 +8,8 @@
 namespace coilrun {
 
 /// The places on one axis of the field that a head can come to: 20 pixels apart, in up to three
-/// rows. An open edge lets a head in again at another offset, so that there is a row through each
-/// of its two entries; another one goes through the place where the head stands.
+/// rows. An open edge lets a head back in at another offset, so there is a row through each of its
+/// two entries; the other row goes through the place where the head stands.
 class Axis {
  public:
   static constexpr int kMost = 96;
@@ -17,7 +17,7 @@ class Axis {
   /// No place: beyond a closed edge, or off all rows.
   static constexpr int kOut = -1;
 
-  /// One row: the places `first` to `first + count - 1`, from pixel `base` on.
+  /// One row: the places `first` to `first + count - 1`, starting at pixel `base`.
   struct Row {
     int first = 0;
     int count = 0;
@@ -25,7 +25,7 @@ class Axis {
 
     bool operator==(const Row&) const = default;
   };
-  /// Places of a row, counted within it; none when `last` is smaller.
+  /// Places of a row, numbered within it; none when `last` is less than `first`.
   struct Run {
     int first;
     int last;
@@ -35,7 +35,7 @@ class Axis {
   void Lay(const FieldAxis& field, int at, bool open);
 
   int IndexOf(int position) const;
-  /// Places of all rows; two axes that are laid alike are equal.
+  /// How many places all rows have; two axes that are laid alike are equal.
   int Count() const { return count_; }
   bool operator==(const Axis&) const = default;
 
@@ -47,7 +47,7 @@ class Axis {
 
   int Rows() const { return rowCount_; }
   const Row& RowAt(int row) const { return rows_[static_cast<std::size_t>(row)]; }
-  /// The places of a row between two pixels, both included.
+  /// The places of a row from one pixel to another, both included.
   static Run Between(const Row& row, int low, int high);
 
  private:

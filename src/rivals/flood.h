@@ -9,24 +9,24 @@
 
 namespace coilrun {
 
-/// Spreads a step at a time over the places that a snake comes to before others, the nearest first:
-/// how many there are, and the way to each.
+/// Spreads step by step over the places that a snake reaches before others, the nearest first:
+/// tells how many there are, and the way to each.
 class Flood {
  public:
   struct Visit {
     Ground::Node node;
-    int step;  ///< in which the snake can be there first
+    int step;  ///< the first in which the snake can be there
   };
 
-  /// Begins anew; both must outlive the questions that follow.
+  /// Starts over; both must outlive the calls that follow.
   void Begin(const Ground& ground, const Advance& advance);
-  /// A place that the snake comes to in `step`, to spread from.
+  /// Adds a place to spread from, which the snake reaches in `step`.
   void Enter(Ground::Node node, int step) { Enter(node, step, Ground::kNowhere); }
-  /// The next place; nothing when all that can be reached has been visited.
+  /// The next place; nothing when everything in reach has been visited.
   std::optional<Visit> Next();
 
   int Visited() const { return static_cast<int>(taken_); }
-  /// The place from which one was reached; `kNowhere` for those to spread from.
+  /// The place from which this one was reached; `kNowhere` for those that were added.
   Ground::Node Before(Ground::Node node) const { return before_[static_cast<std::size_t>(node)]; }
 
  private:

@@ -5,9 +5,9 @@
 namespace coilrun {
 namespace {
 
-/// Other heads are minded for so many steps; what they do after that nobody knows.
+/// For how many steps other heads matter; nobody knows what they do after that.
 constexpr int kMindedSteps = 3;
-/// Steps are noted within rounds of so many.
+/// The size of a round, within which steps are noted.
 constexpr std::uint32_t kRound = 1024;
 
 }  // namespace
@@ -75,7 +75,7 @@ int Foresight::Exits(Ground::Node node, int step) const {
   }));
 }
 
-/// Puts the places that a way can go on to in order: dead ends first, then those with most exits.
+/// Sorts the places where a way can go on: dead ends first, then those with the most exits.
 void Foresight::Spread(Ground::Node node) {
   Stage& stage = stages_[static_cast<std::size_t>(step_)];
   std::array<int, 4> ranks{};

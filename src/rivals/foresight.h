@@ -8,34 +8,35 @@
 
 namespace coilrun {
 
-/// Follows a snake ahead, its own body behind it: how long can it live on? Looks for a way that
-/// lasts, the narrowest places first, as that is how a pocket is filled.
+/// Follows a snake ahead with its own body behind it: how long can it live on? Looks for a way that
+/// lasts, trying the narrowest places first, because that is how a pocket is filled.
 class Foresight {
  public:
-  /// Steps of a way at most, from the next one on.
+  /// The most steps that a way can have, counted from the next one on.
   static constexpr int kMost = 300;
 
-  /// Begins anew with a snake of `length`; both others must outlive the questions that follow.
+  /// Starts over with a snake of `length`; `ground` and `advance` must outlive the calls that
+  /// follow.
   void Begin(const Ground& ground, const Advance& advance, int length);
-  /// The snake's next step leads here, whatever may be there.
+  /// Makes the snake's next step lead here, whatever may be there.
   void Walk(Ground::Node node);
-  /// It eats where it walked to last: its tail stays for a step, and it is longer from then on.
+  /// Makes it eat where it walked last: its tail stays for a step, and it is longer from then on.
   void Eat();
-  /// The last step of the longest way found from there; stops at `wanted`, or after so many tries.
+  /// The last step of the longest way found from there; stops at `wanted`, or after `tries` tries.
   int Last(int wanted, int tries);
 
  private:
-  /// Places at most that a cell covers: one in its own row, two in each other row of an axis.
+  /// The most places that a cell covers: one in its own row, two in each other row of an axis.
   static constexpr int kInAxis = 2 * Axis::kRows - 1;
   static constexpr std::size_t kMarks = std::size_t{kInAxis} * kInAxis * (kMost + 1);
 
-  /// A place that was walked to, and where it goes on from there.
+  /// A place on the way, and where the way can go on from there.
   struct Stage {
-    int marks = 0;  ///< how many there were before
+    int marks = 0;  ///< how many there were before this place
     int count = 0;
     std::array<Ground::Node, 4> next{};  ///< the most promising last
   };
-  /// A place that the body covers, and what was noted of it before.
+  /// A place that the body covers, and what was noted about it before.
   struct Mark {
     Ground::Node node;
     std::uint32_t before;

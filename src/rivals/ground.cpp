@@ -9,19 +9,19 @@
 namespace coilrun {
 namespace {
 
-/// Room that an immortal snake is given, and for how many steps.
+/// How much room an immortal snake is given, and for how many steps.
 constexpr Reach kImmortalReach{-60, 60, -60, 60};
 constexpr int kImmortalSteps = 5;
-/// Steps for which bodies lie at most; later than that nothing is planned.
+/// The most steps for which a body lies somewhere; nothing is planned beyond them.
 constexpr int kLatest = 253;
-/// Fractions of a step that paces are compared in.
+/// The fractions of a step in which paces are compared.
 constexpr int kFine = 256;
-/// A meal of another snake keeps its body in place for a step: so many are allowed for, and one
-/// more in every `kStepsAMeal`.
+/// When another snake eats, its body stays in place for a step. This many meals are allowed for,
+/// and one more in every `kStepsAMeal` steps.
 constexpr int kMealsAllowed = 4;
 constexpr int kStepsAMeal = 16;
 
-/// Steps for which nothing can hurt; a second is left in reserve, for it may have begun.
+/// For how many steps nothing can hurt; the last second is not counted, since it may be under way.
 int ImmuneSteps(const State& state, const SnakeRec& snake) {
   constexpr int kAlways = 1 << 20;
   if (state.mode.GodMode) return kAlways;
@@ -49,7 +49,7 @@ void Ground::Look(const State& state, int snake, std::span<const Goal> goals, Wa
   SeeSnakes(state, snake);
 }
 
-/// Most looks find the axes as the one before did, and the ways between places with them.
+/// Most looks find the same axes as the previous one, and so the same ways between places.
 void Ground::Lay() {
   const Axis across = across_;
   const Axis down = down_;

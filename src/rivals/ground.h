@@ -15,15 +15,15 @@ inline constexpr std::array kDirections = {Dir::kForw, Dir::kBack, Dir::kLeft, D
 /// Something that a head wants to come to.
 struct Goal {
   Point at;
-  Reach reach{};           ///< from where it counts as reached
-  std::uint8_t worth = 1;  ///< 1 to 250; of two goals at one place the larger counts
+  Reach reach{};           ///< how near to it counts as there
+  std::uint8_t worth = 1;  ///< 1 to 250; of two goals at one place, the larger worth counts
 };
 
-/// How a snake looks at walls that TNT can blow: as they stand, or as if there were none.
+/// How a snake sees walls that TNT can blow up: as they stand, or as if they were not there.
 enum class WallSight : std::uint8_t { kStand, kIgnored };
 
 /// The field as one snake meets it: the places that its head can come to, and from which of its
-/// steps on each of them is free. Bodies move on, so that a place behind a tail is free in time.
+/// steps on each of them is free. Bodies move on, so a place behind a tail becomes free in time.
 /// Nothing is allocated.
 class Ground {
  public:
@@ -40,21 +40,21 @@ class Ground {
   /// The node at a place; `kNowhere` when the head cannot come to it.
   Node At(Point place) const;
   Point PlaceOf(Node node) const;
-  /// The place one step from the head: it may be off the field where the head itself is.
+  /// The place one step from the head; the head itself may be off the field.
   Node FirstStep(Dir dir) const;
-  /// The places one step away, in the order of `kDirections`, `kNowhere` beyond a closed edge.
+  /// The places one step away, in the order of `kDirections`; `kNowhere` beyond a closed edge.
   const std::array<std::int16_t, 4>& Around(Node node) const { return around_[Index(node)]; }
 
-  /// The first of the snake's steps, 1 for the next one, in which it can surely be here and live:
-  /// others may eat, and then their bodies stay for longer.
+  /// The first of the snake's steps, 1 being the next one, in which it can surely be here and live:
+  /// others may eat, and then their bodies stay longer.
   int FreeFrom(Node node) const { return freeFrom_[Index(node)]; }
-  /// The same if no other snake eats.
+  /// The same, provided that no other snake eats.
   int SoonestFree(Node node) const { return soonest_[Index(node)]; }
   /// True when the snake can surely be here in `step` and live, unless another head comes.
   bool IsFree(Node node, int step) const { return FreeFrom(node) <= step || step < immuneSteps_; }
   /// What reaching this place is worth; 0 when no goal is in reach.
   int WorthOf(Node node) const { return worth_[Index(node)]; }
-  /// Calls `visit(node)` for each place from where a head shares a pixel with a cell at `place`.
+  /// Calls `visit(node)` for each place where a head shares a pixel with a cell at `place`.
   template <typename Visit>
   void ForOverlaps(Point place, const Visit& visit) const {
     ForPlaces(place, kBodyReach, visit);
