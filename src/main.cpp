@@ -41,7 +41,7 @@ PlatformOptions OptionsFor(const HostOptions& options, StopSignals& signals) {
 }
 
 int RunProgram(State& state, const Ports& ports, const HostOptions& options) {
-  state.more.forRun = {options.classic, options.rivals};
+  state.more.forRun = {options.classic, options.rivals, options.watch};
   try {
     Program program(state, ports, COILRUN_VERSION);
     program.Run(options.commandLine);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <string>
+#include <utility>
 
 #include "content/archives.h"
 #include "content/lines.h"
@@ -70,17 +71,26 @@ bool LevelReader::Read(std::string_view text) {
 
 bool LevelReader::ReadLine(std::string_view line) {
   ++row_;
-  const CellVisitor place = [this](int column, std::string_view word) {
+  const CellVisitor place = [this, line](int column, std::string_view word) {
     const auto code = CodeOf(word);
-    return !code || Place(*code, AnchorOf(code->kind, column, row_));
+    return !code || Place(*code, AnchorOf(code->kind, column, row_)) ||
+           FailAt(line, word, "more of these than a level can have");
   };
   if (row_ <= kMapRows && !ScanRow(line, place)) return false;
   for (const KeyDef& def : LevelKeys()) {
     if (!HasKey(def, line)) continue;
     const auto value = ReadValue(def, line);
-    if (!value || !Apply(def.key, *value)) return false;
+    if (value && Apply(def.key, *value)) continue;
+    return FailAt(line, line.substr(def.text.size()),
+                  "\"" + std::string{def.text} + "\" cannot have this value");
   }
   return true;
+}
+
+/// Notes what is wrong with a part of the line that is being read; false.
+bool LevelReader::FailAt(std::string_view line, std::string_view part, std::string what) {
+  fault_ = {row_, static_cast<int>(part.data() - line.data()) + 1, std::move(what)};
+  return false;
 }
 
 bool LevelReader::Place(const CellCode& code, Point anchor) {

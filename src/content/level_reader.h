@@ -3,6 +3,7 @@
 #include <string_view>
 
 #include "content/context.h"
+#include "content/level_fault.h"
 #include "content/level_format.h"
 
 namespace coilrun {
@@ -15,6 +16,8 @@ class LevelReader {
 
   /// False when the level cannot be loaded; what was read before stays.
   bool Read(std::string_view text);
+  /// What kept the level from being read.
+  const LevelFault& Fault() const { return fault_; }
   /// Walls read so far.
   int WallCount() const { return walls_; }
 
@@ -34,11 +37,14 @@ class LevelReader {
   void SetUserItemPicture(char letter, std::string_view name);
   void SetUserItemType(char letter, std::string_view type);
 
+  bool FailAt(std::string_view line, std::string_view part, std::string what);
+
   const ContentContext& context_;
   State& state_;
   int row_ = 0;
   int walls_ = 0;
   int archives_ = 0;
+  LevelFault fault_;
 };
 
 }  // namespace coilrun

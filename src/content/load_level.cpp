@@ -1,6 +1,7 @@
 #include "content/load_level.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "content/ai_snakes.h"
 #include "content/level_reader.h"
@@ -136,27 +137,34 @@ void SetMatchLimit(ModeState& mode) {
   if (mode.MatchLimit <= 1) mode.MatchLimit = UsualMatchLimit(mode.HuntingMode);
 }
 
-bool TryLoadLevel(const ContentContext& context, const std::string& path) {
+using Fault = std::optional<LevelFault>;
+
+Fault FaultOf(std::string what) {
+  return LevelFault{.what = std::move(what)};
+}
+
+Fault TryLoadLevel(const ContentContext& context, const std::string& path) {
   State& state = context.state;
   ResetLevelState(context);
   ResetSnakeTimers(state);
   ResetTables(state);
   ConsolePrint(state, "LoadLevel: Loading Level " + path);
   const auto file = context.files.Read(path);
-  if (!file) return false;
+  if (!file) return FaultOf("cannot be read");
   LevelReader reader(context);
-  if (!reader.Read(TextOf(*file))) return false;
+  if (!reader.Read(TextOf(*file))) return reader.Fault();
   state.shell.WaitingForStart = true;
   MessagePrint(state, "Welcome!");
   state.shell.Running = true;
-  if (!PlaceItems(state)) return false;
+  if (!PlaceItems(state)) return FaultOf("more than 300 items of a kind");
   state.numWalls = reader.WallCount();
-  if (!LoadPictures(context) || !SetupSnakes(context)) return false;
+  if (!LoadPictures(context)) return FaultOf("the picture of a user item cannot be loaded");
+  if (!SetupSnakes(context)) return FaultOf("AI_Names.lst is empty");
   SetMatchLimit(state.mode);
   state.shell.ShowLevelScreen = true;
   state.shell.NoGameRunning = false;
   state.level.ElapsedSecs = 0;
-  return true;
+  return std::nullopt;
 }
 
 }  // namespace
@@ -174,8 +182,9 @@ void ResetLevelState(const ContentContext& context) {
   ResetMenus(state.menus);
 }
 
-void LoadLevel(const ContentContext& context, const std::string& path) {
-  if (TryLoadLevel(context, path)) return;
+std::optional<LevelFault> LoadLevel(const ContentContext& context, const std::string& path) {
+  const Fault fault = TryLoadLevel(context, path);
+  if (!fault) return std::nullopt;
   State& state = context.state;
   state.shell.NoGameRunning = true;
   state.shell.InMenu = true;
@@ -184,6 +193,7 @@ void LoadLevel(const ContentContext& context, const std::string& path) {
   state.shell.Running = true;
   state.menus.StatusText = "Level " + path + " does not exist";
   DebugPrint(state, state.menus.StatusText);
+  return fault;
 }
 
 }  // namespace coilrun

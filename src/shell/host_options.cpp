@@ -38,8 +38,9 @@ bool TakeRivals(HostOptions& options, const std::string& value) {
   return options.rivals.has_value();
 }
 
-constexpr std::array<FlagOption, 5> kFlags = {{{"--windowed", &HostOptions::windowed},
+constexpr std::array<FlagOption, 6> kFlags = {{{"--windowed", &HostOptions::windowed},
                                                {"--classic", &HostOptions::classic},
+                                               {"--watch", &HostOptions::watch},
                                                {"--headless", &HostOptions::headless},
                                                {"--help", &HostOptions::help},
                                                {"--version", &HostOptions::version}}};
@@ -68,7 +69,11 @@ auto FindOption(const Options& known, std::string_view name) -> decltype(&known[
 }
 
 std::string Unfit(const HostOptions& options) {
-  if (options.headless || options.help || options.version) return {};
+  if (options.help || options.version) return {};
+  if (options.watch && options.commandLine.find("/L=") == std::string::npos) {
+    return "--watch needs /L=LEVEL";
+  }
+  if (options.headless) return {};
   if (options.script) return "--script needs --headless";
   if (options.trace) return "--trace needs --headless";
   return {};
@@ -116,6 +121,7 @@ std::string HelpText() {
          "  --windowed       play in a window instead of full screen\n"
          "  --rivals KIND    classic, clever or master computer snakes in this run; a list\n"
          "                   (classic,master) is dealt out in turn\n"
+         "  --watch          load the level of /L= anew whenever its file is saved\n"
          "  --classic        play the classic game: ignore the settings in [More] and [Keys]\n"
          "  --headless       no window, no sound, virtual time\n"
          "  --script FILE    the script that plays a headless run (- is standard input)\n"

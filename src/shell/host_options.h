@@ -17,6 +17,7 @@ struct HostOptions {
   bool windowed = false;
   bool classic = false;
   std::optional<RivalList> rivals;
+  bool watch = false;
   bool headless = false;
   std::optional<std::string> script;  ///< "-" reads standard input
   std::optional<std::string> trace;

@@ -53,10 +53,12 @@ void Program::RunMenus() {
 }
 
 void Program::LoadLevel(const std::string& path) {
-  coilrun::LoadLevel(content_, path);
+  const auto fault = coilrun::LoadLevel(content_, path);
   game_.drivers = MakeDrivers(state_.more.Rivals);
   state_.menus.statusHeld = state_.shell.NoGameRunning;
-  if (state_.shell.NoGameRunning) EndMatch(state_);
+  if (!fault) return;
+  EndMatch(state_);
+  if (state_.more.forRun.watchesLevel) state_.menus.StatusText = FaultText(path, *fault);
 }
 
 void Program::LoadSettings() {
@@ -116,6 +118,7 @@ void Program::OnSecond() {
   state_.shell.Fps = state_.shell.FrameCount;
   state_.shell.FrameCount = 0;
   TickSecond(state_);
+  if (state_.more.forRun.watchesLevel) watch_.Look(shell_);
 }
 
 void Program::OnKeyboard() {

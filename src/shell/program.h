@@ -12,6 +12,7 @@
 #include "model/state.h"
 #include "ports/ports.h"
 #include "render/renderer.h"
+#include "shell/level_watch.h"
 #include "shell/main_pump.h"
 #include "shell/more_settings.h"
 #include "shell/shell.h"
@@ -73,6 +74,7 @@ class Program final : private GameHost,
   LevelChoice levels_;
   MenuContext menus_;
   Shell shell_;
+  LevelWatch watch_;
   MoreSettings beforePage_;  ///< the settings when the open page was opened
 };
 

@@ -5,12 +5,14 @@
 #include <tuple>
 #include <vector>
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include "support/content_stage.h"
 
 namespace coilrun {
 namespace {
+
+using ::testing::StartsWith;
 
 constexpr const char* kPath = ".\\lvl\\lvl1.dat";
 
@@ -121,23 +123,27 @@ TEST_F(LoadLevelTest, KeepsAndResetsWhatTheLevelBeforeLeft) {
 }
 
 TEST_F(LoadLevelTest, EndsEveryFaultInTheMenus) {
-  const std::string faults[] = {"numRed=40000",
-                                "Timeout=",
-                                "increase=maybe",
-                                "set:",
-                                "AIS=32767",
-                                "numYellow=301",
-                                "numPower=301",
-                                Repeated(22, Repeated(31, "| ") + ".\n"),
-                                Repeated(22, Repeated(31, "a ") + ".\n"),
-                                Repeated(22, Repeated(14, "* ") + ".\n"),
-                                Repeated(33, "Requires=a.zip\n"),
-                                std::string("| .\n\0\xFF\nnumTNT=99999", 20)};
-  for (const std::string& text : faults) {
+  const std::pair<std::string, std::string> faults[] = {
+      {"lvlName= Hall\r\nnumRed=40000", "hall:2:8: \"numRed=\" cannot"},
+      {"Timeout=", "hall:1:9: "},
+      {"increase=maybe", "hall:1:10: "},
+      {"set:", "hall:1:5: "},
+      {"AIS=32767", "hall:1:5: "},
+      {"numYellow=301", "hall: more than 300 items"},
+      {"numPower=301", "hall: more than 300 items"},
+      {Repeated(22, Repeated(31, "| ") + ".\n"), "hall:22:61: more of these"},
+      {Repeated(22, Repeated(31, "a ") + ".\n"), "hall:22:61: more of these"},
+      {Repeated(22, Repeated(14, "* ") + ".\n"), "hall:22:13: more of these"},
+      {Repeated(33, "Requires=a.zip\n"), "hall:33:10: "},
+      {std::string("| .\n\0\xFF\nnumTNT=99999", 20), "hall:3:8: "}};
+  for (const auto& [text, told] : faults) {
     state.shell = {};
     state.shell.LevelIntroPending = true;
     Load(text);
     EXPECT_TRUE(Failed()) << text.substr(0, 40);
+    const auto fault = LoadLevel(stage.context, kPath);
+    ASSERT_TRUE(fault) << text.substr(0, 40);
+    EXPECT_THAT(FaultText("hall", *fault), StartsWith(told));
     EXPECT_GE(state.mode.NumSnakes, 1);
     EXPECT_LE(state.mode.NumSnakes, kMaxSnakes);
   }

@@ -32,7 +32,8 @@ TEST(HostOptions, WrongOnesAreRefusedByName) {
                              {"--data", ""},
                              {"--headless", "--trace"},
                              {"--rivals", "classic,"},
-                             {"--rivals", "Clever"}};
+                             {"--rivals", "Clever"},
+                             {"--headless", "--watch"}};
   for (const Arguments& arguments : wrong) {
     const auto parsed = ParseHostOptions(arguments);
     const auto* fault = std::get_if<std::string>(&parsed);

@@ -155,6 +155,26 @@ def leave_by_the_menu(desktop, program, folder, shots, faults):
     faults.expect((folder / "user" / "coilrun.ini").is_file(), "Exit saved no settings")
 
 
+def watch_a_level(desktop, program, folder, shots, faults):
+    level = folder / "share" / "coilrun" / "lvl" / "watched.dat"
+    level.write_text("_ ;\nlvlName= First\nnumYellow=9\nreqYellow=9\n")
+    game = desktop.start([program, "--windowed", "--watch", "--user", folder / "user", "/L=watched.dat"])
+    faults.expect(desktop.window(), "no window appeared for the watched level")
+    first = desktop.wait_for_picture(shots / "watched.png")
+    time.sleep(1.5)
+    level.write_text("_ ;\nlvlName= First\nnumRed=many\nnumBlue=99999\n")
+    time.sleep(3)
+    menu = desktop.screenshot(shots / "watched-fault.png")
+    faults.expect((first != menu).mean() > 0.1, "a fault in the watched level did not open the menus")
+    level.write_text("_ ;\nlvlName= Second\nBkgPic= bkg_ice.bmp\nnumYellow=9\nreqYellow=9\n")
+    time.sleep(3)
+    second = desktop.screenshot(shots / "watched-again.png")
+    faults.expect((second != menu).mean() > 0.1, "the mended level was not loaded")
+    faults.expect((second != first).mean() > 0.1, "the level is still the first one")
+    desktop.key("alt+F4")
+    faults.expect(wait_for_end(game) == 0, "closing the window did not end the watched game with 0")
+
+
 def main():
     build = sys.argv[1]
     folder = pathlib.Path(tempfile.mkdtemp(prefix="coilrun-window-"))
@@ -166,6 +186,7 @@ def main():
     try:
         play_a_level(desktop, program, folder, shots, faults)
         leave_by_the_menu(desktop, program, folder, shots, faults)
+        watch_a_level(desktop, program, folder, shots, faults)
     finally:
         desktop.close()
     for fault in faults:
