@@ -40,16 +40,18 @@ TEST(Coillevel, CheckNamesTheLine) {
   const Workshop shop;
   shop.Put("good.dat", LevelWith("lvlName= Good\r\nnextLvl= END\r\nnumYellow=3\r\n"));
   shop.Put("odd.dat", LevelWith("lvlname= Odd\r\n"));
-  shop.Put("below.dat", LevelWith("a wall is missing here\r\n_ | | ;\r\n"));
-  shop.Put("blank.dat", LevelWith("numYellow= 3 \r\nreqRed=1 2\r\n"));
-  shop.Put("match.dat", LevelWith("MatchLimit=20\r\nMatchLimit=4\r\n"));
+  shop.Put("below.dat", LevelWith("lvlName= B\r\na wall is missing here\r\n_ | | ;\r\n"));
+  shop.Put("blank.dat", LevelWith("numYellow= 3 \r\nreqRed=1 2\r\nlvlName= B\r\n"));
+  shop.Put("match.dat", LevelWith("lvlName= M\r\nMatchLimit=4\r\n"));
   shop.Put("bad.dat", LevelWith("lvlName= Bad\r\nnumRed=301\r\n"));
-  shop.Put("worse.dat", LevelWith("numRed=3\r\nnumRed=301\r\n"));
-  shop.Put("mended.dat", LevelWith("numRed=301\r\nnumRed=3\r\n"));
+  shop.Put("worse.dat", LevelWith("numRed=3\r\nnumRed=301\r\nlvlName= W\r\n"));
+  shop.Put("mended.dat", LevelWith("numRed=301\r\nnumRed=3\r\nlvlName= M\r\n"));
   const std::tuple<std::string, int, std::string> cases[] = {
       {"good.dat", 0, ""},
-      {"odd.dat", 0, "odd.dat:23: ignored"},
-      {"below.dat", 0, "below.dat:24: ignored: the map has 22 rows"},
+      {"odd.dat", 0,
+       "odd.dat:23: ignored: a line must begin with exactly \"lvlName=\"\n"
+       "odd.dat:23: the level has no title\n"},
+      {"below.dat", 0, "below.dat:25: ignored: the map has 22 rows"},
       {"blank.dat", 0, "blank.dat:24: \"1 2\" is read as 12"},
       {"match.dat", 0, "match.dat:24: ignored: a match's limit"},
       {"bad.dat", 1, "bad.dat:24: more than 300"},
@@ -96,16 +98,17 @@ TEST(Coillevel, CheckNamesWhatAwaitsTheSnakes) {
   using Codes = std::vector<std::tuple<int, int, char>>;
   Codes boxed = {{15, 12, 'S'}};
   Ring(boxed, 13, 10, 4, '+');
-  Codes room = {{15, 12, 'S'}, {6, 6, '*'}, {20, 18, '*'}};
-  Ring(room, 5, 5, 3, 'w');
+  Codes room = {{15, 12, 'S'}, {6, 11, '*'}, {20, 18, '*'}};
+  Ring(room, 5, 10, 3, 'w');
   Codes hollow = {{15, 18, 'S'}};
   Ring(hollow, 6, 6, 1, '+');
-  Codes shut = {{15, 12, 'S'}, {6, 6, '*'}};
+  Codes shut = {{15, 12, 'S'}, {6, 11, '*'}};
   Ring(shut, 12, 8, 8, '+');
   const std::string soft = "let:w wall\r\nset:w crate.bmp\r\n";
   const std::string hard = "let:w wall_no_tnt\r\nset:w crate.bmp\r\n";
-  const std::string lost = "x.dat:5: no snake can take what is put into column 5: ";
-  const std::string point = "x.dat:6: no snake can take bananas from the spawn point in column 6\n";
+  const std::string lost = "x.dat:10: no snake can take what is put into column 5: ";
+  const std::string point =
+      "x.dat:11: no snake can take bananas from the spawn point in column 6\n";
   const std::tuple<Codes, std::string, std::string> cases[] = {
       // Starts
       {{{15, 12, 'S'}, {15, 12, '+'}},
@@ -131,6 +134,14 @@ TEST(Coillevel, CheckNamesWhatAwaitsTheSnakes) {
        "",
        "x.dat:9: snake 2 has no start, though there is the start \"2\"\n"},
       {{{5, 5, 'S'}, {5, 9, '1'}}, "AIS=2\n", "x.dat:24: the map has starts for 2 snakes only\n"},
+      // Texts over the field
+      {{{15, 12, 'S'}, {8, 1, '+'}}, "", "x.dat:1: a wall stands behind the status line\n"},
+      {{{15, 12, 'S'}, {8, 3, '*'}}, "", "x.dat:3: a spawn point stands behind the messages\n"},
+      {{{15, 12, 'S'}, {8, 4, 'w'}}, soft, "x.dat:4: a user item stands behind the messages\n"},
+      {{{15, 12, 'S'}, {8, 22, '1'}}, "", "x.dat:22: a start stands behind the panel of items\n"},
+      {{{15, 12, 'S'}, {30, 22, '+'}, {15, 22, '+'}},
+       "",
+       "x.dat:22: a wall stands behind the frags\n"},
       // Reach
       {room, soft + "numYellow=2\nnumTNT=1\n", ""},
       {room, hard + "numYellow=2\nnumTNT=1\nnumPower=1\n", ""},
@@ -143,7 +154,8 @@ TEST(Coillevel, CheckNamesWhatAwaitsTheSnakes) {
       // Requirements
       {{}, "reqRed=2\n", "x.dat:24: the level has no chilies\n"},
       {shut, "numBlue=1\nHideCollected=True\nreqBlue=1\n",
-       "x.dat:6: no snake can take crystals from the spawn point in column 6\nx.dat:26: the player "
+       "x.dat:11: no snake can take crystals from the spawn point in column 6\nx.dat:26: the "
+       "player "
        "can reach no crystals\n"},
       {{},
        "numBlack=1\nHideCollected=True\nreqBlack=2\n",
@@ -151,7 +163,7 @@ TEST(Coillevel, CheckNamesWhatAwaitsTheSnakes) {
       {{}, "numBlack=1\nreqScore=20\n", "x.dat:25: nothing that gives points can be reached\n"},
       {{}, "numBlue=1\nblueRate=1\n", "x.dat:25: at a rate of 1 or less no crystal ever"},
       // Walls beside "+"
-      {{{5, 5, '+'}, {6, 5, '-'}, {5, 6, '|'}, {4, 5, '<'}, {5, 4, '^'}}, "", ""},
+      {{{5, 9, '+'}, {6, 9, '-'}, {5, 10, '|'}, {4, 9, '<'}, {5, 8, '^'}}, "", ""},
       {{{5, 5, '+'}, {4, 5, '>'}},
        "",
        "x.dat:5: the wall \">\" in column 4 leaves a gap to the \"+\" beside it\n"},
@@ -194,6 +206,19 @@ TEST(Coillevel, DumpTellsWhatTheLoaderMade) {
     EXPECT_EQ(level.at(key).size(), level.at(std::string{"num"} + key)) << key;
     EXPECT_FALSE(level.at(key).empty()) << key;
   }
+}
+
+TEST(Coillevel, CheckNamesWhatTheProgramFolderLacks) {
+  const Workshop shop;
+  shop.Put("game/gfx/sky.bmp", "");
+  shop.Put("game/music/day.ogg", "");
+  shop.Put("game/lvl/a.dat",
+           LevelWith("lvlName= A\nnextLvl= B.dat\nMusicFile= DAY.ogg\nBkgPic= sky.bmp\n"));
+  shop.Put("game/lvl/b.dat",
+           LevelWith("lvlName= B\nnextLvl= c.dat\nMusicFile= no.ogg\nBkgPic= no.bmp\n"));
+  EXPECT_EQ(shop.Run("cd game/lvl && " + kLevel + " check a.dat b.dat").output,
+            "b.dat:24: there is no level \"c.dat\"\nb.dat:25: there is no piece \"no.ogg\"\n"
+            "b.dat:26: there is no picture \"no.bmp\"\n");
 }
 
 TEST(Coillevel, DrawsTheFieldAndLeavesTheProgramFolderAlone) {

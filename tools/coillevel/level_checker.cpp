@@ -4,6 +4,7 @@
 #include <array>
 #include <optional>
 
+#include "band_check.h"
 #include "content/level_list.h"
 #include "content/lines.h"
 #include "model/numbers.h"
@@ -55,10 +56,12 @@ std::vector<Finding> LevelChecker::Check(std::string_view text) {
   CheckLines(text);
   if (cells_ == 0 && lines_.keys.empty()) return {{1, "nothing here makes a level"}};
   CheckItemCounts();
+  if (!lines_.keys.contains(LevelKey::kLvlName)) Warn("the level has no title");
   CheckLetters();
   CheckStarts();
   Add(walls_.Find());
   if (level) Add(CheckField(*level, lines_));
+  if (level) Add(CheckBands(*level));
   std::stable_sort(findings_.begin(), findings_.end(),
                    [](const Finding& a, const Finding& b) { return a.line < b.line; });
   return findings_;
@@ -225,6 +228,11 @@ void LevelChecker::CheckName(const KeyDef& def, std::string_view text) {
     Warn("no name after " + Quoted(def.text));
   } else if (def.key == LevelKey::kBkgPic && !pictures_.Has(std::string{text})) {
     Warn("there is no picture " + Quoted(text));
+  } else if (def.key == LevelKey::kNextLvl && text != "END" &&
+             !pictures_.HasFile("lvl", std::string{text})) {
+    Warn("there is no level " + Quoted(text));
+  } else if (def.key == LevelKey::kMusicFile && !pictures_.HasFile("music", std::string{text})) {
+    Warn("there is no piece " + Quoted(text));
   }
   if (def.key != LevelKey::kRequires) return;
   constexpr int kMaxArchives = decltype(LevelState::RequiredArchives)::kSize;

@@ -29,10 +29,9 @@ std::filesystem::path ProgramFolderOf(const std::filesystem::path& levelFile) {
   return std::filesystem::absolute(levelFile).parent_path().parent_path();
 }
 
-Pictures::Pictures(const std::filesystem::path& levelFile) {
-  const std::filesystem::path folder = ProgramFolderOf(levelFile);
+Pictures::Pictures(const std::filesystem::path& levelFile) : folder_(ProgramFolderOf(levelFile)) {
   std::error_code ignored;
-  const std::filesystem::path loose = folder / "gfx";
+  const std::filesystem::path loose = folder_ / "gfx";
   for (auto entry = std::filesystem::recursive_directory_iterator(loose, ignored);
        !ignored && entry != std::filesystem::recursive_directory_iterator();
        entry.increment(ignored)) {
@@ -42,7 +41,7 @@ Pictures::Pictures(const std::filesystem::path& levelFile) {
     AddWithFolders(names_, NormalName(name.string()));
     known_ = true;
   }
-  DiskFiles files(folder, std::nullopt);
+  DiskFiles files(folder_, std::nullopt);
   RarArchive archive(files);
   if (!archive.Open(".\\gfx.snr")) return;
   known_ = true;
@@ -58,6 +57,15 @@ Pictures::Pictures(const std::filesystem::path& levelFile) {
 
 bool Pictures::Has(const std::string& name) const {
   return !known_ || names_.count(NormalName(name)) != 0;
+}
+
+bool Pictures::HasFile(const std::string& folder, const std::string& name) const {
+  if (!known_) return true;
+  std::error_code ignored;
+  const std::filesystem::directory_iterator files(folder_ / folder, ignored);
+  return std::any_of(begin(files), end(files), [&](const auto& file) {
+    return FoldCase(file.path().filename().string()) == FoldCase(name);
+  });
 }
 
 }  // namespace coilrun

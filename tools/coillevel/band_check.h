@@ -1,0 +1,14 @@
+#pragma once
+
+#include <vector>
+
+#include "finding.h"
+#include "model/state.h"
+
+namespace coilrun {
+
+/// Names what stands, or what a spawn point would put, where texts lie over the field: the status
+/// line and the messages below it, the panel of items, the frags.
+std::vector<Finding> CheckBands(const State& level);
+
+}  // namespace coilrun
