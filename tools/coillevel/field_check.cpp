@@ -15,6 +15,8 @@ namespace {
 
 /// How many free cells in a row a start needs in some direction.
 constexpr int kFreeCells = 3;
+/// And above, where a computer snake starts.
+constexpr int kFreeCellsAhead = 5;
 
 constexpr std::array<std::string_view, kItemKinds> kNames = {"bananas",       "chilies", "crystals",
                                                              "black bananas", "TNT",     "atoms"};
@@ -93,7 +95,16 @@ class FieldCheck {
       Warn(start.line, start.name + " lies in a wall: the snake dies where it stands");
     } else {
       CheckRoom(place, start);
+      if (snake > 1) CheckWayUp(place, start);
     }
+  }
+
+  /// Computer snakes set off upwards, all at once.
+  void CheckWayUp(Point place, const StartLine& start) {
+    const int steps = ground_.FreeSteps(place, Dir::kForw, kFreeCellsAhead);
+    if (steps == 0 || steps >= kFreeCellsAhead) return;
+    Warn(start.line, start.name + " has only " + std::to_string(steps) +
+                         " free cells above: computer snakes start upwards");
   }
 
   /// A start needs room on all sides, and one way out that is long enough to turn in.
@@ -101,16 +112,20 @@ class FieldCheck {
     std::string blocked;
     std::string ways;
     int longest = 0;
+    int waysOut = 0;
     for (const Way& way : kWays) {
       const int steps = ground_.FreeSteps(place, way.dir, kFreeCells);
       if (steps == 0) blocked += (blocked.empty() ? "" : ", ") + std::string{way.text};
       ways += (ways.empty() ? "" : ", ") + std::string{way.text} + ' ' + std::to_string(steps);
       longest = std::max(longest, steps);
+      if (steps == kFreeCells) ++waysOut;
     }
     if (!blocked.empty()) Warn(start.line, start.name + " has no free cell " + blocked);
     if (longest < kFreeCells) {
       Warn(start.line, start.name + " has fewer than " + std::to_string(kFreeCells) +
                            " free cells in every direction: " + ways);
+    } else if (waysOut < 2) {
+      Warn(start.line, start.name + " has only one way out: " + ways);
     }
   }
 
