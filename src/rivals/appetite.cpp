@@ -32,6 +32,12 @@ std::span<const Goal> Appetite::Look(const State& state, int snake) {
   return {goals_.data(), count_};
 }
 
+std::span<const Goal> Appetite::Power(const State& state) {
+  count_ = 0;
+  if (!IsMultiplayer(state.mode.GameMode)) Add(state, ItemKind::kPower, 1);
+  return {goals_.data(), count_};
+}
+
 void Appetite::Add(const State& state, ItemKind kind, int worth) {
   const ItemList& items = state.Items(kind);
   const Reach reach = EatingReach(kind);

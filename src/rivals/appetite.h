@@ -12,6 +12,8 @@ class Appetite {
  public:
   /// The items on the field that are worth eating for `snake` in this mode of the game.
   std::span<const Goal> Look(const State& state, int snake);
+  /// Atomic power, which nobody gets in a multiplayer game.
+  std::span<const Goal> Power(const State& state);
 
  private:
   void Add(const State& state, ItemKind kind, int worth);

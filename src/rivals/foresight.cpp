@@ -7,6 +7,8 @@ namespace {
 
 /// For how many steps other heads matter; nobody knows what they do after that.
 constexpr int kMindedSteps = 3;
+/// Nobody steps back to where he was a step ago, however short he is.
+constexpr int kNoReverse = 2;
 /// The size of a round, within which steps are noted.
 constexpr std::uint32_t kRound = 1024;
 
@@ -15,7 +17,7 @@ constexpr std::uint32_t kRound = 1024;
 void Foresight::Begin(const Ground& ground, const Advance& advance, int length) {
   ground_ = &ground;
   advance_ = &advance;
-  length_ = length;
+  length_ = std::max(length, kNoReverse);
   meals_ = 0;
   step_ = 0;
   marked_ = 0;

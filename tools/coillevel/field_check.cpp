@@ -15,7 +15,7 @@ namespace {
 
 /// How many free cells in a row a start needs in some direction.
 constexpr int kFreeCells = 3;
-/// The same above the start of a computer snake.
+/// And above, where a computer snake starts.
 constexpr int kFreeCellsAhead = 5;
 
 constexpr std::array<std::string_view, kItemKinds> kNames = {"bananas",       "chilies", "crystals",

@@ -1,0 +1,88 @@
+#include "rivals/master.h"
+
+#include <algorithm>
+
+#include "game/slots.h"
+
+namespace coilrun {
+namespace {
+
+/// Points for a place that is taken from others.
+constexpr int kTaken = 200;
+/// A step that takes so many places more than another one goes before a meal.
+constexpr int kWorthwhile = 20;
+
+}  // namespace
+
+Dir MasterDriver::Choose(State& state, int snake) {
+  Scout::Plan plan = Look(state, snake, WallSight::kStand);
+  if (state.Snakes(snake).TNT > 0 && !plan.fed) {
+    const Scout::Plan blasting = Look(state, snake, WallSight::kIgnored);
+    if (blasting.fed || (blasting.safe && !plan.safe)) plan = blasting;
+  }
+  if (!plan.safe) {
+    const Scout::Plan power = SeekPower(state, snake);
+    if (power.fed) plan = power;
+  }
+  return plan.dir != Dir::kNone ? plan.dir : Die(state, snake);
+}
+
+Scout::Plan MasterDriver::Look(const State& state, int snake, WallSight walls) {
+  if (!scout_.Look(state, snake, appetite_.Look(state, snake), walls)) return {};
+  if (FindPrey(state, snake)) {
+    const Scout::Plan kill = scout_.Roam(gains_);
+    if (kill.safe) return kill;
+  }
+  const Scout::Plan meal = scout_.Feed();
+  return meal.fed ? meal : scout_.Roam(gains_);
+}
+
+/// Points cost less than a life.
+Scout::Plan MasterDriver::SeekPower(const State& state, int snake) {
+  const std::span<const Goal> power = appetite_.Power(state);
+  if (power.empty() || !scout_.Look(state, snake, power, WallSight::kStand)) return {};
+  return scout_.Hurry();
+}
+
+/// Leaves in `gains_` what each way takes from others; true when it matters which one is taken.
+bool MasterDriver::FindPrey(const State& state, int snake) {
+  hunt_.Look(scout_.Field(), state, snake);
+  const auto ways = scout_.Ways();
+  std::transform(ways.begin(), ways.end(), gains_.begin(),
+                 [this](const Scout::Way& way) { return kTaken * hunt_.Taken(way.node); });
+  const auto gains = std::span(gains_).first(ways.size());
+  const auto [least, most] = std::minmax_element(gains.begin(), gains.end());
+  return *most - *least >= kTaken * kWorthwhile;
+}
+
+/// Every step looks deadly: where there is no hope, the death that costs fewest frags.
+Dir MasterDriver::Die(const State& state, int snake) const {
+  const SnakeRec& self = state.Snakes(snake);
+  Dir best = scout_.LeastBad();
+  if (best == Dir::kNone) return best;
+  for (const Dir dir : kDirections) {
+    if (dir != Reverse(self.Dir) && Price(self, dir) < Price(self, best)) best = dir;
+  }
+  return best;
+}
+
+/// Walls and edges cost nothing, another's body makes him a frag, the own one costs a frag.
+int MasterDriver::Price(const SnakeRec& self, Dir dir) const {
+  constexpr int kHope = 0;
+  constexpr int kWall = 1;
+  constexpr int kOther = 2;
+  constexpr int kOwn = 3;
+  const Ground& ground = scout_.Field();
+  const Ground::Node node = ground.FirstStep(dir);
+  if (node == Ground::kNowhere) return kWall;
+  if (ground.SoonestFree(node) <= 1) return kHope;
+  const Point place = ground.PlaceOf(node);
+  const auto body = Slots(self.Seg, 1, self.Length);
+  const bool own = std::any_of(body.begin(), body.end(), [place](const SegRec& seg) {
+    return Overlap(place, {seg.X, seg.Y});
+  });
+  if (own) return kOwn;
+  return ground.SoonestFree(node) == Ground::kNever ? kWall : kOther;
+}
+
+}  // namespace coilrun
