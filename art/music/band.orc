@@ -103,6 +103,17 @@ instr Bell
   Play aBell * 0.8, p5, p6, p7, p8
 endin
 
+; A violin string, plucked
+instr Pizzicato
+  iFreq = cpsmidinn(p4)
+  p3 Ring 0.6, iFreq
+  aEnv Decay p3, -6
+  kBright transeg 9, 0.12, -4, 2.5, p3, 0, 2
+  aString butterlp vco2(0.7, iFreq) + oscili:a(0.4, iFreq), min:k(iFreq * kBright, k(7000))
+  aFinger butterbp rand:a(aEnv ^ 40, 0.71), 1800, 1200
+  Play (butterhp:a(aString, iFreq * 0.5) + aFinger * 0.5) * aEnv, p5, p6, p7, p8
+endin
+
 ;; Blown and bowed
 
 instr Flute
@@ -154,6 +165,15 @@ instr Strings
   Play aString * aEnv, p5, p6, p7, p8
 endin
 
+; Two reeds that beat softly against each other, and a third an octave up
+instr Accordion
+  iFreq = cpsmidinn(p4)
+  aEnv linsegr 0, 0.05, 1, 0.2, 0.85, 0.09, 0
+  aReeds = vco2(0.32, iFreq * 0.997) + vco2(0.32, iFreq * 1.003) + vco2(0.12, iFreq * 2.001, 2, 0.3)
+  aBox butterlp butterhp:a(aReeds, iFreq * 0.5), 3200
+  Play (aBox + butterbp:a(aReeds, 900, 500) * 0.5) * aEnv, p5, p6, p7, p8
+endin
+
 ;; Electric
 
 instr Lead
@@ -170,6 +190,26 @@ instr Chip
   aEnv linsegr 0, 0.003, 1, 0.09, 0.35, 0.03, 0
   aPulse butterhp vco2(0.6, iFreq, 2, 0.25), iFreq * 0.5
   Play butterlp:a(aPulse, 5500) * aEnv, p5, p6, p7, p8
+endin
+
+; Root, fifth and octave through one overdriven amplifier
+instr Guitar
+  iFreq = cpsmidinn(p4)
+  aEnv linsegr 0, 0.004, 1, 0.12, 0.8, 1.4, 0.5, 0.05, 0
+  aStrings = vco2(0.4, iFreq) + vco2(0.35, iFreq * 1.4985) + vco2(0.3, iFreq * 2.003)
+  aAmp = tanh(butterlp:a(aStrings, 2600) * 4)
+  aBox butterlp butterhp:a(aAmp, 90), 3600
+  Play aBox * aEnv * 0.6, p5, p6, p7, p8
+endin
+
+; Drawbars, and a horn turning in its box
+instr Organ
+  iFreq = cpsmidinn(p4)
+  aEnv linsegr 0, 0.008, 1, 0.06, 0
+  kFreq = iFreq * Vibrato(0.003, 6.4, 0.05)
+  aBars = oscili:a(0.5, kFreq * 0.5) + oscili:a(0.6, kFreq) + oscili:a(0.4, kFreq * 1.5) + oscili:a(0.35, kFreq * 2)
+  aBars += oscili:a(0.2, kFreq * 3) + oscili:a(0.15, kFreq * 4) + oscili:a(0.08, kFreq * 6)
+  Play tanh(aBars) * aEnv, p5, p6, p7, p8
 endin
 
 instr Bass
@@ -213,6 +253,23 @@ instr Rim
   aEnv Decay p3, -6
   aWood = oscili:a(aEnv, 1710) + oscili:a(aEnv, 830) + butterbp:a(rand:a(aEnv, 0.9), 2600, 1200)
   Play aWood * 0.9, p5, p6, p7, p8
+endin
+
+; A few palms that do not quite meet
+instr Clap
+  p3 = 0.25
+  aEnv linseg 0, 0.001, 1, 0.009, 0.2, 0.001, 0.9, 0.009, 0.2, 0.001, 1, 0.05, 0.25, 0.17, 0
+  aPalms butterbp rand:a(1, 0.29), 1500, 1400
+  Play aPalms * aEnv * 1.4, p5, p6, p7, p8
+endin
+
+; The two beats of a clock: 84 and 86
+instr Tick
+  iFreq = p4 == 84 ? 2350 : 1870
+  p3 = 0.05
+  aEnv Decay p3, -7
+  aGear = oscili:a(aEnv, iFreq) + oscili:a(aEnv ^ 2 * 0.6, iFreq * 2.37) + butterbp:a(rand:a(aEnv ^ 6, 0.47), 4500, 3000)
+  Play aGear * 0.8, p5, p6, p7, p8
 endin
 
 instr ClosedHat

@@ -32,14 +32,15 @@ CEILING = 0.84  # the encoder may overshoot a little
 ECHO_BEATS = 0.75
 
 BAND = {
-    9: "Bell", 12: "Marimba", 15: "Dulcimer", 32: "DeepBass", 38: "Bass", 46: "Harp", 48: "Strings",
-    61: "Horn", 68: "Reed", 73: "Flute", 80: "Lead", 81: "Chip", 89: "Pad", 108: "Kalimba", 114: "SteelPan",
+    9: "Bell", 12: "Marimba", 15: "Dulcimer", 16: "Organ", 21: "Accordion", 30: "Guitar", 32: "DeepBass",
+    38: "Bass", 45: "Pizzicato", 46: "Harp", 48: "Strings", 61: "Horn", 68: "Reed", 73: "Flute", 80: "Lead",
+    81: "Chip", 89: "Pad", 108: "Kalimba", 114: "SteelPan",
 }  # fmt: skip
 DRUMS = 118
 KIT = {
-    60: "Kick", 62: "Snare", 64: "Rim", 65: "ClosedHat", 67: "OpenHat", 69: "Shaker",
+    59: "Clap", 60: "Kick", 62: "Snare", 64: "Rim", 65: "ClosedHat", 67: "OpenHat", 69: "Shaker",
     71: "HandDrum", 72: "HandDrum", 74: "HandDrum", 76: "Clank", 77: "Tom", 79: "FrameDrum",
-    81: "FrameEdge", 83: "Cymbal",
+    81: "FrameEdge", 83: "Cymbal", 84: "Tick", 86: "Tick",
 }  # fmt: skip
 CONTROLS = {7: 100, 10: 64, 91: 30, 94: 0}  # with the values at which they start
 

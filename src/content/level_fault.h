@@ -5,7 +5,7 @@
 namespace coilrun {
 
 /// Why the game does not load a level, and where in the file. Lines and columns count from 1; 0
-/// where the fault has no place.
+/// when the fault has no place.
 struct LevelFault {
   int line = 0;
   int column = 0;

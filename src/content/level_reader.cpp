@@ -87,7 +87,7 @@ bool LevelReader::ReadLine(std::string_view line) {
   return true;
 }
 
-/// Notes what is wrong with a part of the line that is being read; false.
+/// Notes what is wrong with a part of the line that is being read; always false.
 bool LevelReader::FailAt(std::string_view line, std::string_view part, std::string what) {
   fault_ = {row_, static_cast<int>(part.data() - line.data()) + 1, std::move(what)};
   return false;

@@ -85,7 +85,7 @@ struct SteeringKeys {
 struct RunOptions {
   bool isClassic = false;  ///< the sections [More] and [Keys] are neither read nor written
   std::optional<RivalList> rivals = {};
-  bool watchesLevel = false;  ///< the command line's level is loaded anew when its file changes
+  bool watchesLevel = false;  ///< the command line's level is reloaded when its file changes
 };
 
 /// The settings of the sections [More] and [Keys], which start at their built-in values, and the

@@ -121,7 +121,7 @@ std::string HelpText() {
          "  --windowed       play in a window instead of full screen\n"
          "  --rivals KIND    classic, clever or master computer snakes in this run; a list\n"
          "                   (classic,master) is dealt out in turn\n"
-         "  --watch          load the level of /L= anew whenever its file is saved\n"
+         "  --watch          reload the level given by /L= whenever its file is saved\n"
          "  --classic        play the classic game: ignore the settings in [More] and [Keys]\n"
          "  --headless       no window, no sound, virtual time\n"
          "  --script FILE    the script that plays a headless run (- is standard input)\n"

@@ -3,7 +3,7 @@
 namespace coilrun {
 namespace {
 
-/// From wherever the player is, to the level's start, or to the main page when it does not load.
+/// Takes the player from anywhere to the level's start, or to the main page when it does not load.
 void Reload(Shell& shell, const std::string& path) {
   State& state = shell.state;
   state.menus.OptionsPage = 0;

@@ -7,10 +7,10 @@
 
 namespace coilrun {
 
-/// Loads the level of the command line anew whenever its file has changed, for those who make it.
+/// Reloads the command line's level whenever its file has changed, for people who make levels.
 class LevelWatch {
  public:
-  /// Looks at the file; to be called now and then.
+  /// Checks the file; to be called now and then.
   void Look(Shell& shell);
 
  private:

@@ -223,7 +223,7 @@ TEST(Coillevel, CheckNamesWhatTheProgramFolderLacks) {
   shop.Put("game/lvl/b.dat",
            LevelWith("lvlName= B\nnextLvl= c.dat\nMusicFile= no.ogg\nBkgPic= no.bmp\n"));
   EXPECT_EQ(shop.Run("cd game/lvl && " + kLevel + " check a.dat b.dat").output,
-            "b.dat:24: there is no level \"c.dat\"\nb.dat:25: there is no piece \"no.ogg\"\n"
+            "b.dat:24: there is no level \"c.dat\"\nb.dat:25: there is no music \"no.ogg\"\n"
             "b.dat:26: there is no picture \"no.bmp\"\n");
 }
 

@@ -28,7 +28,7 @@ class BandCheck {
     for (const Band& band : kBands) {
       const bool covers = at.x < band.right && at.x + kCell > band.left && at.y < band.bottom &&
                           at.y + kCell > band.top;
-      // One finding a row and band is enough.
+      // One finding per row and band is enough.
       const int row = std::max((at.y + kCell / 2) / kCell, 1);
       if (covers && told_.emplace(row, band.name).second) {
         findings_.push_back({row, std::string{thing} + " stands behind " + std::string{band.name}});

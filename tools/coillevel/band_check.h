@@ -7,8 +7,8 @@
 
 namespace coilrun {
 
-/// Names what stands, or what a spawn point would put, where texts lie over the field: the status
-/// line and the messages below it, the panel of items, the frags.
+/// Names what stands, or what a spawn point would put, behind the texts over the field: the status
+/// line and the messages below it, the item panel, the frags.
 std::vector<Finding> CheckBands(const State& level);
 
 }  // namespace coilrun

@@ -15,7 +15,7 @@ namespace {
 
 /// How many free cells in a row a start needs in some direction.
 constexpr int kFreeCells = 3;
-/// And above, where a computer snake starts.
+/// The same above the start of a computer snake.
 constexpr int kFreeCellsAhead = 5;
 
 constexpr std::array<std::string_view, kItemKinds> kNames = {"bananas",       "chilies", "crystals",

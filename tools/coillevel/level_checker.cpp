@@ -232,7 +232,7 @@ void LevelChecker::CheckName(const KeyDef& def, std::string_view text) {
              !pictures_.HasFile("lvl", std::string{text})) {
     Warn("there is no level " + Quoted(text));
   } else if (def.key == LevelKey::kMusicFile && !pictures_.HasFile("music", std::string{text})) {
-    Warn("there is no piece " + Quoted(text));
+    Warn("there is no music " + Quoted(text));
   }
   if (def.key != LevelKey::kRequires) return;
   constexpr int kMaxArchives = decltype(LevelState::RequiredArchives)::kSize;

@@ -18,8 +18,8 @@ class Pictures {
   bool Known() const { return known_; }
   /// True when a picture or a folder of pictures may exist below the gfx folder.
   bool Has(const std::string& name) const;
-  /// True when a file may lie in a folder of the program folder ("lvl", "music"), in any letter
-  /// case.
+  /// True when a file may lie in this folder of the program folder ("lvl", "music"), whatever its
+  /// letter case.
   bool HasFile(const std::string& folder, const std::string& name) const;
 
  private:
