@@ -3,7 +3,7 @@
 #include <cstdio>
 #include <cstdlib>
 
-/// Plays as many matches of 16 snakes as it is told, 100 unless told, to their ends.
+/// Plays matches of 16 snakes to their ends: as many as it is told, or 100.
 int main(int argc, char** argv) {
   const int matches = argc > 1 ? std::atoi(argv[1]) : 100;
   int faults = 0;

@@ -12,7 +12,7 @@ namespace {
 
 constexpr int kRuns = 3;
 constexpr int kSecondsARun = 600;
-/// Rivals are tuned on seeds below this.
+/// Rivals are tuned on the seeds below this one.
 constexpr int kFirstSeed = 100;
 
 /// What all snakes of one kind went through in all runs.

@@ -6,8 +6,8 @@
 
 namespace coilrun {
 
-/// Goes to eat where a way leads on, keeps to where there is room, and takes TNT through walls when
-/// that leads to more.
+/// Goes to eat where a way leads on, keeps to where there is room, and blows up walls with TNT when
+/// that leads further.
 class CleverDriver final : public Driver {
  public:
   Dir Choose(State& state, int snake) override;

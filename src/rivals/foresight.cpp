@@ -7,7 +7,7 @@ namespace {
 
 /// For how many steps other heads matter; nobody knows what they do after that.
 constexpr int kMindedSteps = 3;
-/// Nobody steps back to where he was a step ago, however short he is.
+/// No snake steps back to where it was a step ago, however short it is.
 constexpr int kNoReverse = 2;
 /// The size of a round, within which steps are noted.
 constexpr std::uint32_t kRound = 1024;

@@ -33,7 +33,7 @@ class Ground {
   /// A place that is never free.
   static constexpr int kNever = 255;
 
-  /// Looks anew.
+  /// Looks again.
   void Look(const State& state, int snake, std::span<const Goal> goals = {},
             WallSight walls = WallSight::kStand);
 

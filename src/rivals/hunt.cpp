@@ -8,21 +8,21 @@
 namespace coilrun {
 namespace {
 
-/// Prey is no further away than this, in pixels along the axes.
+/// The furthest that prey can be away, in pixels along the axes.
 constexpr int kNear = 16 * kCell;
-/// The snake's own steps are followed so far.
+/// How many of the snake's own steps are followed.
 constexpr int kFarthest = 16;
-/// Places that prey needs beyond its length, and at most.
+/// How many places prey needs beyond its length, and how many it needs at most.
 constexpr int kSpare = 6;
 constexpr int kMostNeeded = 60;
-/// What shutting prey in counts for, in places.
+/// How many places it counts for to shut prey in.
 constexpr int kShutIn = 20;
 
 int Distance(Point a, Point b) {
   return std::abs(a.x - b.x) + std::abs(a.y - b.y);
 }
 
-/// The place nearest to `theirs` that is whole steps away from `own`.
+/// The place nearest to `theirs` that lies whole steps away from `own`.
 int Nearest(int own, int theirs) {
   const int off = theirs - own;
   return own + (off + (off < 0 ? -kCell / 2 : kCell / 2)) / kCell * kCell;
@@ -77,8 +77,8 @@ void Hunt::SpreadOwn(Ground::Node from) {
   }
 }
 
-/// Places that prey comes to before the snake, up to what it needs. Others may step just before:
-/// what is free for them a step later counts as free.
+/// How many places prey reaches before the snake, up to what it needs. Others may step just before
+/// us: what is free for them one step later counts as free.
 int Hunt::Room(const Prey& prey) {
   theirs_.fill(kNever);
   queued_ = 0;

@@ -8,25 +8,26 @@
 
 namespace coilrun {
 
-/// Who of the others loses room to a step: a snake that has less than its body needs soon dies.
+/// Which of the others lose room to a step: a snake with less room than its body needs dies soon.
 class Hunt {
  public:
-  /// Finds the prey near a snake; `ground` is as the snake meets it and must outlive what follows.
+  /// Finds the prey near a snake; `ground` is the field as the snake meets it, and must outlive the
+  /// calls that follow.
   void Look(const Ground& ground, const State& state, int snake);
-  /// Places that the prey could reach first, and no longer does when the snake steps here; more
-  /// for each that is left with too few to live.
+  /// How many places the prey would reach first, but not once the snake steps here; more for each
+  /// snake that is left with too few to live.
   int Taken(Ground::Node step);
 
  private:
   struct Prey {
     Ground::Node at = Ground::kNowhere;  ///< the place that is nearest to its head
-    int needs = 0;                       ///< places
-    int room = 0;                        ///< as it stands, up to what it needs
+    int needs = 0;                       ///< in places
+    int room = 0;                        ///< that it has now, up to what it needs
   };
   static constexpr int kMost = 4;
   static constexpr std::uint8_t kNever = 255;
 
-  /// In which step a place is come to.
+  /// The step in which each place is reached.
   using Steps = std::array<std::uint8_t, Ground::kNodes>;
 
   static bool IsShutIn(const Prey& prey, int room);

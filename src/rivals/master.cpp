@@ -9,7 +9,7 @@ namespace {
 
 /// Points for a place that is taken from others.
 constexpr int kTaken = 200;
-/// A step that takes so many places more than another one goes before a meal.
+/// A step that takes this many more places than another one comes before a meal.
 constexpr int kWorthwhile = 20;
 
 }  // namespace
@@ -37,14 +37,14 @@ Scout::Plan MasterDriver::Look(const State& state, int snake, WallSight walls) {
   return meal.fed ? meal : scout_.Roam(gains_);
 }
 
-/// Points cost less than a life.
+/// Atomic power costs points, but points are cheaper than a life.
 Scout::Plan MasterDriver::SeekPower(const State& state, int snake) {
   const std::span<const Goal> power = appetite_.Power(state);
   if (power.empty() || !scout_.Look(state, snake, power, WallSight::kStand)) return {};
   return scout_.Hurry();
 }
 
-/// Leaves in `gains_` what each way takes from others; true when it matters which one is taken.
+/// Notes in `gains_` what each way takes from others; true when it matters which way is taken.
 bool MasterDriver::FindPrey(const State& state, int snake) {
   hunt_.Look(scout_.Field(), state, snake);
   const auto ways = scout_.Ways();
@@ -55,7 +55,8 @@ bool MasterDriver::FindPrey(const State& state, int snake) {
   return *most - *least >= kTaken * kWorthwhile;
 }
 
-/// Every step looks deadly: where there is no hope, the death that costs fewest frags.
+/// For when every step looks deadly: where there is no hope, chooses the death that costs the
+/// fewest frags.
 Dir MasterDriver::Die(const State& state, int snake) const {
   const SnakeRec& self = state.Snakes(snake);
   Dir best = scout_.LeastBad();
@@ -66,7 +67,8 @@ Dir MasterDriver::Die(const State& state, int snake) const {
   return best;
 }
 
-/// Walls and edges cost nothing, another's body makes him a frag, the own one costs a frag.
+/// Walls and edges cost nothing, another snake's body gives it a frag, and the snake's own body
+/// costs it one.
 int MasterDriver::Price(const SnakeRec& self, Dir dir) const {
   constexpr int kHope = 0;
   constexpr int kWall = 1;

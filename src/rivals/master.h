@@ -7,8 +7,8 @@
 
 namespace coilrun {
 
-/// As clever as `CleverDriver`, and plays against the others: takes their room when that does not
-/// cost its own, takes atomic power when no way leads on, and gives no frags away that it can keep.
+/// As clever as `CleverDriver`, but plays against the others: takes their room when that does not
+/// cost its own, takes atomic power when no way leads on, and gives away no frags that it can keep.
 class MasterDriver final : public Driver {
  public:
   Dir Choose(State& state, int snake) override;

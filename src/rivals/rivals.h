@@ -4,7 +4,7 @@
 
 namespace coilrun {
 
-/// Deals the kinds of a list out in turn, from snake `first` on.
+/// Deals out the kinds of a list in turn, from snake `first` on.
 Drivers MakeDrivers(const RivalList& list, int first = 2);
 
 }  // namespace coilrun

@@ -9,25 +9,26 @@
 namespace coilrun {
 namespace {
 
-/// The largest worth of a meal: one that pays less is not looked for further than this beyond it.
+/// The most that a meal is worth: nothing is looked for further than this beyond the best one
+/// found.
 constexpr int kBestWorth = 8;
-/// Steps to a meal at most.
+/// The most steps to a meal.
 constexpr int kFarthestMeal = 150;
-/// A way that lasts so many steps more than the body is long goes on behind its own tail.
+/// A way that lasts this many steps longer than the body can go on behind its own tail.
 constexpr int kSpareSteps = 4;
 constexpr int kLongestWay = 100;
-/// Places wanted for four cells of the body without a meal, and some more on top of any number.
+/// How many places are wanted per four cells of the body without a meal, and how many more on top.
 constexpr int kRoomToRoam = 8;
 constexpr int kSpareRoom = 10;
-/// Points of a step: for each further one, each place of room, each neighbour that is not free,
-/// another head that can be there, and going on straight.
+/// The points of a step: for each further step, each place of room, each neighbour that is not
+/// free, another head that can be there, and going straight on.
 constexpr int kLasting = 100;
 constexpr int kRoomy = 300;
 constexpr int kNarrow = -500;
 constexpr int kContested = -600;
 constexpr int kStraight = 1;
 
-/// Walls that TNT can blow around a place.
+/// How many walls that TNT can blow up touch a place.
 int BlowableAt(const State& state, Point place) {
   int count = 0;
   for (const WallRec& wall : Slots(state.Walls, 1, state.numWalls)) {
@@ -40,7 +41,7 @@ int BlowableAt(const State& state, Point place) {
   return count;
 }
 
-/// The length that a snake has when it has grown as far as it will.
+/// The length of a snake once its pending growth is paid out.
 int FullLength(const SnakeRec& snake) {
   return std::min(snake.Length + std::max<int>(snake.Grow, 0), kMaxLength);
 }
@@ -103,7 +104,7 @@ void Scout::TakePath(const Meal& meal) {
   }
 }
 
-/// The meals that this snake comes to before others, the best first.
+/// The meals that this snake reaches before others, the best first.
 std::span<const Scout::Meal> Scout::Meals() {
   flood_.Begin(ground_, advance_);
   for (const Way& way : Ways()) {
@@ -163,7 +164,7 @@ int Scout::Points(const Way& way, int last) {
   return points;
 }
 
-/// Places that can be reached from here before others, as far as they are wanted.
+/// How many places can be reached from here before others, counted up to `wanted`.
 int Scout::Room(Ground::Node from, int wanted) {
   room_.Begin(ground_, advance_);
   room_.Enter(from, 1);

@@ -12,13 +12,13 @@ namespace coilrun {
 
 /// How a driver weighs things.
 struct Temper {
-  int roomForMeal;    ///< places wanted before a meal, for four cells of the body
+  int roomForMeal;    ///< places wanted before a meal, per four cells of the body
   int triesFromMeal;  ///< to find a way that lasts, from a meal and from a step
   int triesFromStep;
 };
 
 /// Plans the next step of a snake: to what is worth eating, as long as a way leads on from there,
-/// and else to where there is room. Remembers nothing from one plan to the next.
+/// otherwise to where there is room. Remembers nothing from one plan to the next.
 class Scout {
  public:
   /// A step that can be made now.
@@ -35,12 +35,12 @@ class Scout {
 
   explicit Scout(const Temper& temper) : temper_(temper) {}
 
-  /// Looks at the field anew; false when no step can be made. Asked before all that follows.
+  /// Looks at the field again; false when no step can be made. Must be called before the others.
   bool Look(const State& state, int snake, std::span<const Goal> goals, WallSight walls);
   Plan Feed();
-  /// To the nearest goal, whatever comes after it.
+  /// Goes to the nearest goal, whatever comes after it.
   Plan Hurry();
-  /// `extra`: points for each of the ways, in their order.
+  /// Goes where there is room; `extra` holds more points for each of the ways, in their order.
   Plan Roam(std::span<const int> extra);
   /// For when every step looks deadly: into the body that may be gone first, or else into the edge.
   /// Before its first step a snake waits for room instead.
@@ -54,7 +54,7 @@ class Scout {
   struct Meal {
     Ground::Node node;
     int step;
-    int detour;  ///< steps to it, less those that it is worth
+    int detour;  ///< steps to it, minus those that it is worth
   };
 
   void FindWays(const State& state, const SnakeRec& self, WallSight walls);
@@ -67,7 +67,7 @@ class Scout {
 
   Temper temper_;
   Dir heading_ = Dir::kNone;
-  int length_ = 0;  ///< when the snake has grown as far as it will
+  int length_ = 0;  ///< once the snake's pending growth is paid out
   Ground ground_;
   Advance advance_;
   Flood flood_;

@@ -7,7 +7,7 @@
 
 namespace {
 
-/// Allocations of this program so far.
+/// How many allocations this program has made so far.
 std::size_t allocations = 0;
 
 }  // namespace
