@@ -28,7 +28,8 @@ std::span<const Goal> Appetite::Look(const State& state, int snake) {
   Add(state, ItemKind::kYellow, tastes.yellow);
   Add(state, ItemKind::kRed, tastes.red);
   Add(state, ItemKind::kBlue, tastes.blue);
-  if (state.numWalls > 0 && state.Snakes(snake).TNT < 1) Add(state, ItemKind::kTnt, 1);
+  const bool hasWalls = state.numWalls > 0 || state.level.UserItemsUsed;
+  if (hasWalls && state.Snakes(snake).TNT < 1) Add(state, ItemKind::kTnt, 1);
   return {goals_.data(), count_};
 }
 
