@@ -58,7 +58,10 @@ int PlayInWindow(const HostOptions& options) {
   const auto state = std::make_unique<State>();
   state->clockSeed = options.seed;
   StoppableKeys keys(signals, made.platform->Keys());
-  return RunProgram(*state, {made.platform->Common(), keys, made.platform->Boxes()}, options);
+  const int exitCode =
+      RunProgram(*state, {made.platform->Common(), keys, made.platform->Boxes()}, options);
+  made.platform->ProgramEnded();
+  return exitCode;
 }
 
 int PlayHeadless(const HostOptions& options) {

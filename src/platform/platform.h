@@ -40,6 +40,8 @@ class WindowPlatform : public Platform {
  public:
   virtual KeySource& Keys() = 0;
   virtual MessageBox& Boxes() = 0;
+  /// The program has saved and is gone: a display that is lost from now on is nobody's business.
+  virtual void ProgramEnded() = 0;
 };
 
 /// No window, no sound, virtual time. Keys and answers come from the script.

@@ -14,6 +14,8 @@ class SdlKeys : public KeySource {
   explicit SdlKeys(SdlWindow& window) : window_(window), controllers_(keys_), mouse_(window) {}
   /// Tells the current listener to close the window, because the display is gone.
   void CloseOnLostDisplay();
+  /// From now on a lost display is told to nobody.
+  void ForgetListener() { listener_ = nullptr; }
 
   void Gather(WindowListener& listener) override;
   void Serve() override;

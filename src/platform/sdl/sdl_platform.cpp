@@ -33,6 +33,7 @@ class SdlPlatform : public WindowPlatform {
   const CommonPorts& Common() const override { return ports_; }
   KeySource& Keys() override { return keys_; }
   MessageBox& Boxes() override { return boxes_; }
+  void ProgramEnded() override { keys_.ForgetListener(); }
 
  private:
   std::unique_ptr<SdlSession> session_;
