@@ -8,7 +8,7 @@ Dir CleverDriver::Choose(State& state, int snake) {
     const Scout::Plan blasting = Look(state, snake, WallSight::kIgnored);
     if (blasting.fed || (blasting.safe && !plan.safe)) plan = blasting;
   }
-  return plan.dir != Dir::kNone ? plan.dir : scout_.LeastBad();
+  return scout_.Settle(plan, state, snake);
 }
 
 Scout::Plan CleverDriver::Look(const State& state, int snake, WallSight walls) {

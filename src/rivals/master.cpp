@@ -2,8 +2,6 @@
 
 #include <algorithm>
 
-#include "game/slots.h"
-
 namespace coilrun {
 namespace {
 
@@ -24,7 +22,7 @@ Dir MasterDriver::Choose(State& state, int snake) {
     const Scout::Plan power = SeekPower(state, snake);
     if (power.fed) plan = power;
   }
-  return plan.dir != Dir::kNone ? plan.dir : Die(state, snake);
+  return scout_.Settle(plan, state, snake);
 }
 
 Scout::Plan MasterDriver::Look(const State& state, int snake, WallSight walls) {
@@ -53,38 +51,6 @@ bool MasterDriver::FindPrey(const State& state, int snake) {
   const auto gains = std::span(gains_).first(ways.size());
   const auto [least, most] = std::minmax_element(gains.begin(), gains.end());
   return *most - *least >= kTaken * kWorthwhile;
-}
-
-/// For when every step looks deadly: where there is no hope, chooses the death that costs the
-/// fewest frags.
-Dir MasterDriver::Die(const State& state, int snake) const {
-  const SnakeRec& self = state.Snakes(snake);
-  Dir best = scout_.LeastBad();
-  if (best == Dir::kNone) return best;
-  for (const Dir dir : kDirections) {
-    if (dir != Reverse(self.Dir) && Price(self, dir) < Price(self, best)) best = dir;
-  }
-  return best;
-}
-
-/// Walls and edges cost nothing, another snake's body gives it a frag, and the snake's own body
-/// costs it one.
-int MasterDriver::Price(const SnakeRec& self, Dir dir) const {
-  constexpr int kHope = 0;
-  constexpr int kWall = 1;
-  constexpr int kOther = 2;
-  constexpr int kOwn = 3;
-  const Ground& ground = scout_.Field();
-  const Ground::Node node = ground.FirstStep(dir);
-  if (node == Ground::kNowhere) return kWall;
-  if (ground.SoonestFree(node) <= 1) return kHope;
-  const Point place = ground.PlaceOf(node);
-  const auto body = Slots(self.Seg, 1, self.Length);
-  const bool own = std::any_of(body.begin(), body.end(), [place](const SegRec& seg) {
-    return Overlap(place, {seg.X, seg.Y});
-  });
-  if (own) return kOwn;
-  return ground.SoonestFree(node) == Ground::kNever ? kWall : kOther;
 }
 
 }  // namespace coilrun

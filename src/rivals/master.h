@@ -17,8 +17,6 @@ class MasterDriver final : public Driver {
   Scout::Plan Look(const State& state, int snake, WallSight walls);
   Scout::Plan SeekPower(const State& state, int snake);
   bool FindPrey(const State& state, int snake);
-  Dir Die(const State& state, int snake) const;
-  int Price(const SnakeRec& self, Dir dir) const;
 
   Appetite appetite_;
   Hunt hunt_;

@@ -46,6 +46,13 @@ int FullLength(const SnakeRec& snake) {
   return std::min(snake.Length + std::max<int>(snake.Grow, 0), kMaxLength);
 }
 
+/// A snake that can go on for no more than this many steps ends at the next wall or edge.
+constexpr int kPatienceWithWall = 40;
+
+/// What a step into death costs. Walls and edges cost nothing, another snake's body gives it a
+/// frag, and the snake's own body costs it one.
+enum Price : int { kHope, kWall, kOther, kOwn };
+
 int WantedRoom(int length, int quarters) {
   return quarters * length / 4 + kSpareRoom;
 }
@@ -148,7 +155,7 @@ Scout::Plan Scout::Roam(std::span<const int> extra) {
     foresight_.Walk(way.node);
     const int last = foresight_.Last(wanted, temper_.triesFromStep);
     const int points = Points(way, last) + (extra.empty() ? 0 : extra[i]);
-    if (points > plan.points) plan = {way.dir, false, last >= wanted, points};
+    if (points > plan.points) plan = {way.dir, false, last >= wanted, points, last};
   }
   return plan;
 }
@@ -186,6 +193,55 @@ Dir Scout::LeastBad() const {
     best = dir;
   }
   return best;
+}
+
+Dir Scout::Settle(const Plan& plan, const State& state, int snake) const {
+  const SnakeRec& self = state.Snakes(snake);
+  if (plan.dir == Dir::kNone) return Die(self);
+  if (plan.fed || plan.safe || !IsMultiplayer(state.mode.GameMode)) return plan.dir;
+  const Dir end = GiveUp(state, self, plan.lasts);
+  return end != Dir::kNone ? end : plan.dir;
+}
+
+/// For when every step looks deadly: where there is no hope, chooses the death that costs the
+/// fewest frags.
+Dir Scout::Die(const SnakeRec& self) const {
+  Dir best = LeastBad();
+  if (best == Dir::kNone) return best;
+  for (const Dir dir : kDirections) {
+    if (dir != Reverse(self.Dir) && PriceOf(self, dir) < PriceOf(self, best)) best = dir;
+  }
+  return best;
+}
+
+/// A step into a wall, the edge or, at the very end, another snake, for when there is no way on but
+/// for `lasts` steps; `kNone` when there is none.
+Dir Scout::GiveUp(const State& state, const SnakeRec& self, int lasts) const {
+  const int patienceWithOther = state.level.hasOpenWalls ? 1 : 4;
+  Dir best = Dir::kNone;
+  int least = kOwn;
+  for (const Dir dir : kDirections) {
+    const int price = PriceOf(self, dir);
+    const int patience = price == kWall ? kPatienceWithWall : patienceWithOther;
+    if (lasts > patience) continue;
+    if (dir == Reverse(self.Dir) || price == kHope || price >= least) continue;
+    best = dir;
+    least = price;
+  }
+  return best;
+}
+
+int Scout::PriceOf(const SnakeRec& self, Dir dir) const {
+  const Ground::Node node = ground_.FirstStep(dir);
+  if (node == Ground::kNowhere) return kWall;
+  if (ground_.SoonestFree(node) <= 1) return kHope;
+  const Point place = ground_.PlaceOf(node);
+  const auto body = Slots(self.Seg, 1, self.Length);
+  const bool own = std::any_of(body.begin(), body.end(), [place](const SegRec& seg) {
+    return Overlap(place, {seg.X, seg.Y});
+  });
+  if (own) return kOwn;
+  return ground_.SoonestFree(node) == Ground::kNever ? kWall : kOther;
 }
 
 }  // namespace coilrun

@@ -31,6 +31,7 @@ class Scout {
     bool fed = false;   ///< leads to a meal
     bool safe = false;  ///< leads on for long enough
     int points = 0;     ///< of a plan without a meal
+    int lasts = 0;      ///< the most steps that it was found to go on for, without a meal
   };
 
   explicit Scout(const Temper& temper) : temper_(temper) {}
@@ -42,15 +43,19 @@ class Scout {
   Plan Hurry();
   /// Goes where there is room; `extra` holds more points for each of the ways, in their order.
   Plan Roam(std::span<const int> extra);
-  /// For when every step looks deadly: into the body that may be gone first, or else into the edge.
-  /// Before its first step a snake waits for room instead.
-  Dir LeastBad() const;
+  /// Where to go by a plan: where it leads as long as there is a way on, otherwise to the death
+  /// that costs the fewest frags. Before its first step a snake without a plan waits.
+  Dir Settle(const Plan& plan, const State& state, int snake) const;
 
   std::span<const Way> Ways() const { return {ways_.data(), wayCount_}; }
   const Ground& Field() const { return ground_; }
   const Advance& Others() const { return advance_; }
 
  private:
+  Dir Die(const SnakeRec& self) const;
+  Dir GiveUp(const State& state, const SnakeRec& self, int lasts) const;
+  Dir LeastBad() const;
+  int PriceOf(const SnakeRec& self, Dir dir) const;
   struct Meal {
     Ground::Node node;
     int step;

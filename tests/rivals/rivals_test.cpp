@@ -72,9 +72,23 @@ TEST(Clever, FindsThePlacesThatAnOpenEdgeLeadsTo) {
 TEST(Clever, TakesTntThroughWallsWhenNothingElseIsLeft) {
   Drawing shut({"xxxxx", "x@.x.", "xxxxx"}, Dir::kForw);
   shut.field.Walls({{60, 30}});
-  EXPECT_EQ(shut.Choice(), Dir::kForw) << "all is deadly";
+  EXPECT_EQ(shut.Choice(), Dir::kRight) << "all is deadly, and walls cost no frag";
   shut.field.Snake(2).TNT = 1;
   EXPECT_EQ(shut.Choice(), Dir::kRight);
+  Drawing fed({"", "..@.....o"}, Dir::kForw);
+  for (int y = 10; y < 480; y += kCell) fed.field.Walls({{80, y}});
+  EXPECT_NE(fed.Choice(), Dir::kRight);
+  fed.field.Snake(2).TNT = 1;
+  EXPECT_EQ(fed.Choice(), Dir::kRight);
+}
+
+TEST(Clever, DiesOnAWallRatherThanOnItsOwnBody) {
+  // The edge is to its left, its body on the other sides: the way on ends after one step.
+  Drawing trapped({"mbc", "@.d", "hfe"}, Dir::kForw);
+  trapped.field.state.mode.GameMode = GameMode::kDeathmatch;
+  EXPECT_EQ(trapped.Choice(), Dir::kLeft);
+  trapped.field.state.mode.GameMode = GameMode::kSingle;
+  EXPECT_NE(trapped.Choice(), Dir::kLeft) << "where no frags count, every step counts";
 }
 
 TEST(Clever, KeepsAwayFromAnImmortalSnake) {
