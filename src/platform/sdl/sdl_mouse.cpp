@@ -29,8 +29,10 @@ std::optional<PointerEvent> SdlMouse::Next() {
 }
 
 void SdlMouse::Move(const SDL_MouseMotionEvent& motion) {
+  // A window that appears below a resting mouse hears of it too: that must not move any cursor.
+  const bool hasMoved = motion.xrel != 0 || motion.yrel != 0;
   const auto place = window_.OnScreen(motion.x, motion.y);
-  if (!place) return;
+  if (!hasMoved || !place) return;
   const PointerEvent event{PointerAct::kMove, place->x, place->y};
   if (!events_.empty() && events_.back().act == PointerAct::kMove) {
     events_.back() = event;
